@@ -1,0 +1,159 @@
+// The parser object: the user's settings, the holiday tables, the result of
+// the title in hand, the calendar helpers every recogniser stands on, and the
+// recognisers themselves as member functions. One object serves one title on
+// one thread; the host builds it, applies the settings, calls parse once and
+// drops it.
+#pragma once
+
+#include <list>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/calendar_ops.h"
+#include "core/results.h"
+#include "core/types.h"
+#include "values/duration.h"
+#include "values/rrule.h"
+
+namespace nlpdate {
+
+class NLPNativeTitleParser {
+ public:
+  NLPNativeTitleParser() = default;
+
+  // ---- settings -----------------------------------------------------------
+  void setCustomizeHour(int morningHour, int morningMinute, int afternoonHour, int afternoonMinute,
+                        int eveningHour, int eveningMinute, int nightHour, int nightMinute);
+  void setStartDay(WeekDay day);
+  // The host's first-weekday number: 1 is Sunday, 2..7 Monday..Saturday, anything else Sunday.
+  void setStartDay(int hostWeekday);
+  void setIs24DateFormat(bool value);
+  void setIsUsOrUkDateFormat(bool value);
+  void setDefaultTimeSecond(long value);
+  bool isIsUsOrUkDateFormat() const { return isUsOrUkDateFormat; }
+
+  // ---- clock: every reading of "now" goes through these ---------------------
+  TimePoint getDefaultTime();
+  TMPtr getDefaultTM();
+  TMPtr getTM(long seconds);
+  long today();
+  long tomorrow();
+
+  // ---- calendar operations ----------------------------------------------------
+  std::tm* getNextDayOfWeek(std::tm* record, WeekDay day);
+  std::tm* getLastDayOfWeek(std::tm* record, WeekDay day);
+  OptTM getNextDayOfWeek(OptTM record, WeekDay day);
+  OptTM getLastDayOfWeek(OptTM record, WeekDay day);
+  void clearValueAfterDay(std::tm* record);
+  void setTMToDefaultTime(std::tm* record);
+  void copyDefaultTimeToCal(OptTime base, OptTM cal, int dateKind);
+  void setCalendarToDefaultTimeWithoutDefaultDate(TimePoint& point);
+  bool isBeforeNow(std::tm* record);
+  bool isBeforeToday(std::tm* record);
+  bool isBeforeToday(OptTM record);
+  bool isToday(std::tm* record);
+
+  // ---- parse flow ---------------------------------------------------------------
+  // The JSON text of the title, or the empty string if anything went wrong.
+  std::wstring parse(std::wstring title, std::wstring baseDate, std::wstring language);
+  std::wstring parseTitle(std::wstring title, OptTime baseDate, std::wstring language);
+
+  // ---- holidays and work days -----------------------------------------------------
+  void setHolidayDay(std::wstring text);
+  void setJapanHolidayDay(std::wstring text);
+  void initHolidaySeasonMap(const std::wstring& ignored);
+  void setLunarHolidayByKey(std::map<std::wstring, int>& map, const std::wstring& key, const int* table,
+                            int count, int defaultValue);
+  bool isOfficialWorkDay(std::tm* record);
+  std::list<std::wstring> getLunarHolidays();
+  // [calendar: further declarations go here]
+
+  // ---- numbers in words -------------------------------------------------------------
+  int translateNum(std::wstring text);
+  int matchNum(std::wstring text);
+  int matchEnglishNum(std::wstring text, Vocabulary vocabulary);
+  std::wstring getChinaNumPattern(int limit);
+
+  // ---- title clean-up ---------------------------------------------------------------
+  std::wstring deleteStringByRegex(std::wstring& text, const std::wstring& pattern);
+  std::wstring deleteWebUrl(std::wstring& title);
+  std::wstring deleteNumber(std::wstring& title);
+  std::wstring deleteSerialNumber(std::wstring& title);
+  std::wstring deleteConfusionString(std::wstring& title);
+  // [vocabulary: further declarations go here]
+
+  // ---- Chinese family ------------------------------------------------------------------
+  bool chineseDateRecognition(std::wstring title, OptTime baseDate, Vocabulary vocabulary);
+  std::optional<NLPRecognizeDate> chineseDateDurationRecognition(std::wstring title, OptTime defaultDate,
+                                                                 Vocabulary vocabulary, OptTM leadDate);
+  OptTM handleSpecialAm(OptTM cal, std::wstring title, Vocabulary vocabulary);
+  void setYear(std::wstring year, TMPtr cal);
+  // [chinese: further declarations go here]
+
+  // ---- word-language family: driver -------------------------------------------------------
+  bool englishDateRecognition(std::wstring title, OptTime baseDate, Vocabulary vocabulary, bool isFrench,
+                              std::wstring language);
+  std::optional<NLPRecognizeDate> englishDateDurationRecognition(std::wstring title, Vocabulary vocabulary);
+  // [words-driver: further declarations go here]
+
+  // ---- word-language: weekdays, named days, Japanese holidays ---------------------------------
+  std::optional<NLPRecognizeDate> matchEnWeekDay(std::wstring title, Vocabulary vocabulary);
+  std::optional<NLPRecognizeDate> matchEnSpecialDate(std::wstring title, Vocabulary vocabulary);
+  std::optional<NLPRecognizeDate> matchJapanHoliday(std::wstring title, std::wstring language);
+  // [words-weekdays: further declarations go here]
+
+  // ---- word-language: clock times and named hours ---------------------------------------------
+  OptTM matchEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary, bool hasDate, bool isFrench);
+  OptTM matchSpecialEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary);
+  std::wstring getAtTimePattern(Vocabulary vocabulary);
+  std::vector<std::wstring> getEnTimePattern(Vocabulary vocabulary);
+  std::wstring getAmPmPattern(Vocabulary vocabulary);
+  // [words-time: further declarations go here]
+
+  // ---- word-language: offsets, advance reminders, repeat rules ---------------------------------
+  std::optional<NLPRecognizeDate> matchEnAfterTime(std::wstring title, Vocabulary vocabulary);
+  std::wstring matchEnAdvanceTime(std::wstring title, Vocabulary vocabulary);
+  bool repeatHelper(const std::wstring title, Vocabulary vocabulary);
+  // [words-repeat: further declarations go here]
+
+  // ---- word-language: numeric dates, month-name dates, repeats with an end ----------------------
+  std::optional<NLPRecognizeDate> matchEnDate(std::wstring title, Vocabulary vocabulary);
+  std::optional<NLPRecognizeDate> matchEnMonth(std::wstring title, Vocabulary vocabulary);
+  TMPtr getEnMonthCalendar(std::wstring monthText, Vocabulary vocabulary);
+  bool repeatUntilRecognize(std::wstring title, Vocabulary vocabulary);
+  // [words-dates: further declarations go here]
+
+  // ---- fields -----------------------------------------------------------------------------------
+  bool isUsOrUkDateFormat = true;
+  int morningHour = 9;
+  int morningMinute = 0;
+  int afternoonHour = 13;
+  int afternoonMinute = 0;
+  int eveningHour = 17;
+  int eveningMinute = 0;
+  int nightHour = 20;
+  int nightMinute = 0;
+  bool is24DateFormat = true;
+  WeekDay startDay = Sunday;
+  long defaultTimeSecond = -1;
+  std::map<std::wstring, int> holidayDayMap;
+  std::map<std::wstring, int> holidaySeasonMap;
+  std::map<std::wstring, int> japanHolidayDayMap;
+  OptTime baseDate;
+  std::wstring holidayInfos;
+  std::wstring japanHolidayInfos;
+  NLPParserDueDate parserDueDate;
+
+ private:
+  // [private: helpers of the parse flow]
+  void cleanRecognizedStrings();
+  void applyPendingOffset();
+  void dropEndNotAfterStart();
+  void computeIsAllDay();
+  void addReminderRequest(const std::wstring& title);
+  void clearResult();
+};
+
+}  // namespace nlpdate

@@ -1,0 +1,16 @@
+// Picks the vocabulary of a language code. Each call builds the map anew.
+#pragma once
+
+#include <string>
+
+#include "core/types.h"
+
+namespace nlpdate {
+
+class NLPTranslation {
+ public:
+  // "ja", "ru", "fr", "ko", "pt" by substring, in that order; anything else is English.
+  static Vocabulary getTransKeyToValue(std::wstring language);
+};
+
+}  // namespace nlpdate

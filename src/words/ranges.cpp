@@ -1,0 +1,10 @@
+// Word-language range recogniser; not built yet, so it finds no range.
+#include "core/title_parser.h"
+
+namespace nlpdate {
+
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::englishDateDurationRecognition(std::wstring, Vocabulary) {
+  return std::nullopt;
+}
+
+}  // namespace nlpdate
