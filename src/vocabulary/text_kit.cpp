@@ -1,39 +1,141 @@
 #include "vocabulary/text_kit.h"
 
-#include <stdexcept>
+#include <cwctype>
+#include <functional>
+#include <regex>
+#include <vector>
+
+#include "vocabulary/pattern_kit.h"
 
 namespace nlpdate {
 
-bool containStr(const std::wstring& text, const std::wstring& pattern) {
-  if (pattern.empty()) return false;
-  size_t begin = 0;
-  while (true) {
-    size_t bar = pattern.find(L'|', begin);
-    std::wstring alternative = pattern.substr(begin, bar == std::wstring::npos ? std::wstring::npos : bar - begin);
-    for (size_t at; (at = alternative.find(L"\\b")) != std::wstring::npos;) alternative.erase(at, 2);
-    if (alternative.empty() || text.find(alternative) != std::wstring::npos) return true;
-    if (bar == std::wstring::npos) return false;
-    begin = bar + 1;
-  }
+namespace {
+
+// Words of the unit tests. English and Chinese only: other languages reach
+// these through their vocabulary first.
+const wchar_t* const kMinuteWords[] = {L"minute", L"minutes", L"min", L"mins", L"分钟", L"分"};
+const wchar_t* const kHourWords[] = {L"小时", L"h", L"hr", L"hrs", L"hour", L"hours"};
+const wchar_t* const kDayWords[] = {L"天", L"day", L"d", L"days"};
+const wchar_t* const kWeekWords[] = {L"周", L"礼拜", L"星期", L"wk", L"wks", L"week", L"weeks"};
+const wchar_t* const kMonthWords[] = {L"月", L"month", L"months"};
+const wchar_t* const kYearWords[] = {L"年", L"year", L"years", L"yr", L"yrs"};
+
+template <size_t N>
+bool isOneOf(const std::wstring& text, const wchar_t* const (&words)[N]) {
+  for (const wchar_t* word : words)
+    if (text == word) return true;
+  return false;
 }
 
-// Placeholders until the text kit lands.
-bool isAsciiCode(const std::wstring&) { throw std::logic_error("isAsciiCode"); }
-std::wstring toLowerCase(std::wstring text) { return text; }
-std::wstring trim(std::wstring& text) { return text; }
-void rreplace(std::wstring&, const std::wstring&, const std::wstring&) {}
+// Splits a vocabulary value at every '|'. Token-iterator semantics: empty
+// pieces before a bar are kept, an empty piece after the last bar is not.
+std::vector<std::wstring> splitAlternatives(const std::wstring& value) {
+  std::wregex bar = compilePattern(L"\\|");
+  std::vector<std::wstring> pieces;
+  std::wsregex_token_iterator it(value.begin(), value.end(), bar, -1), end;
+  for (; it != end; ++it) pieces.push_back(it->str());
+  return pieces;
+}
+
+void eraseAll(std::wstring& text, const std::wstring& piece) {
+  for (size_t at; (at = text.find(piece)) != std::wstring::npos;) text.erase(at, piece.size());
+}
+
+// The shared skeleton of the word-border family: decorate each alternative,
+// join them with '|'.
+std::wstring decorateAlternatives(std::wstring value,
+                                  const std::function<std::wstring(const std::wstring&)>& decorate) {
+  if (value.empty()) return value;
+  std::wstring result;
+  for (const std::wstring& alternative : splitAlternatives(value)) result += decorate(alternative) + L"|";
+  if (!result.empty()) result.pop_back();
+  return result;
+}
+
+const std::wstring kBorder = L"\\b";
+const std::wstring kEndOrBlank = L"(?:\\b|$|\\s)";
+const std::wstring kStartOrBlank = L"(?:\\b|^|\\s)";
+const std::wstring kCloseDotOrBorder = L"(?:\\)|\\.|\\b)";
+
+}  // namespace
+
+bool containStr(const std::wstring& text, const std::wstring& pattern) {
+  if (pattern.empty()) return false;
+  for (std::wstring alternative : splitAlternatives(pattern)) {
+    eraseAll(alternative, kBorder);
+    if (alternative.empty() || text.find(alternative) != std::wstring::npos) return true;
+  }
+  return false;
+}
+
+bool isAsciiCode(const std::wstring& text) {
+  std::wsmatch match;
+  std::wregex word = compilePattern(L"[a-zA-Z-_]+");
+  if (!std::regex_search(text, match, word)) return false;
+  return static_cast<size_t>(match.length(0)) == text.size();
+}
+
+std::wstring toLowerCase(std::wstring text) {
+  for (wchar_t& unit : text) unit = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(unit)));
+  return text;
+}
+
+std::wstring trim(std::wstring& text) {
+  size_t first = 0;
+  while (first < text.size() && std::iswspace(static_cast<wint_t>(text[first]))) ++first;
+  size_t last = text.size();
+  while (last > first && std::iswspace(static_cast<wint_t>(text[last - 1]))) --last;
+  text = text.substr(first, last - first);
+  return text;
+}
+
+void rreplace(std::wstring& text, const std::wstring& search, const std::wstring& replacement) {
+  size_t at = text.rfind(search);
+  if (at == std::wstring::npos) return;
+  text.replace(at, search.size(), replacement);
+}
+
 bool isAnOrA(const std::wstring& text) { return text == L"a" || text == L"an"; }
+
 bool isHalf(const std::wstring& text) { return text == L"半" || text == L"half a" || text == L"half an"; }
-bool isMinutesUnit(const std::wstring&) { return false; }
-bool isHourUnit(const std::wstring&) { return false; }
-bool isDayUnit(const std::wstring&) { return false; }
-bool isWeekUnit(const std::wstring&) { return false; }
-bool isMonthUnit(const std::wstring&) { return false; }
-bool isYearUnit(const std::wstring&) { return false; }
-std::wstring addWordBorderInStart(std::wstring value) { return value; }
-std::wstring addWordBorderInStartAndEnd(std::wstring value, bool) { return value; }
-std::wstring addWordBorderInEnd(std::wstring value) { return value; }
-std::wstring addWordBorderInEndWithOutReg(std::wstring value) { return value; }
-std::wstring addWordBorderInEndWithEnd(std::wstring value) { return value; }
+
+bool isMinutesUnit(const std::wstring& text) { return isOneOf(text, kMinuteWords); }
+bool isHourUnit(const std::wstring& text) { return isOneOf(text, kHourWords); }
+bool isDayUnit(const std::wstring& text) { return isOneOf(text, kDayWords); }
+bool isWeekUnit(const std::wstring& text) { return isOneOf(text, kWeekWords); }
+bool isMonthUnit(const std::wstring& text) { return isOneOf(text, kMonthWords); }
+bool isYearUnit(const std::wstring& text) { return isOneOf(text, kYearWords); }
+
+// \b only means something next to ASCII word letters, so other scripts get an
+// explicit end-of-text-or-blank border instead.
+std::wstring addWordBorderInStart(std::wstring value) {
+  return decorateAlternatives(std::move(value), [](const std::wstring& a) {
+    return isAsciiCode(a) ? kBorder + a : a + kEndOrBlank;
+  });
+}
+
+std::wstring addWordBorderInStartAndEnd(std::wstring value, bool always) {
+  return decorateAlternatives(std::move(value), [always](const std::wstring& a) {
+    return always || isAsciiCode(a) ? kBorder + a + kBorder : a;
+  });
+}
+
+std::wstring addWordBorderInEnd(std::wstring value) {
+  return decorateAlternatives(std::move(value), [](const std::wstring& a) {
+    return isAsciiCode(a) ? kBorder + a + kCloseDotOrBorder : a;
+  });
+}
+
+std::wstring addWordBorderInEndWithOutReg(std::wstring value) {
+  return decorateAlternatives(std::move(value), [](const std::wstring& a) { return a + kCloseDotOrBorder; });
+}
+
+// Long alternatives stay bare on purpose: a word of six letters or more
+// rarely sits inside another one.
+std::wstring addWordBorderInEndWithEnd(std::wstring value) {
+  return decorateAlternatives(std::move(value), [](const std::wstring& a) {
+    return a.size() > 5 ? a : kStartOrBlank + a + kEndOrBlank;
+  });
+}
 
 }  // namespace nlpdate
