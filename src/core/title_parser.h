@@ -59,6 +59,11 @@ class NLPNativeTitleParser {
   // The JSON text of the title, or the empty string if anything went wrong.
   std::wstring parse(std::wstring title, std::wstring baseDate, std::wstring language);
   std::wstring parseTitle(std::wstring title, OptTime baseDate, std::wstring language);
+  // The base date text read by the date pattern; an empty optional when it does not read.
+  OptTime readBaseDate(const std::wstring& text);
+  // What follows recognition: cleans the recognised strings, applies the pending offset, drops an end that
+  // is not after the start, computes isAllDay, adds a reminder request, writes the JSON, clears the result.
+  std::wstring finishResult(const std::wstring& title);
 
   // ---- holidays and work days -----------------------------------------------------
   void setHolidayDay(std::wstring text);
@@ -91,18 +96,33 @@ class NLPNativeTitleParser {
   OptTM handleSpecialAm(OptTM cal, std::wstring title, Vocabulary vocabulary);
   void setYear(std::wstring year, TMPtr cal);
   // [chinese: further declarations go here]
+  void setMonth(std::wstring month, TMPtr cal);
+  void setDayOfMonth(std::wstring day, TMPtr cal);
 
   // ---- word-language family: driver -------------------------------------------------------
   bool englishDateRecognition(std::wstring title, OptTime baseDate, Vocabulary vocabulary, bool isFrench,
                               std::wstring language);
   std::optional<NLPRecognizeDate> englishDateDurationRecognition(std::wstring title, Vocabulary vocabulary);
   // [words-driver: further declarations go here]
+  // Stages of englishDateRecognition.
+  bool takeEnRange(const std::wstring& title, OptTime baseDate, Vocabulary vocabulary);
+  bool finishEnOffset(const NLPRecognizeDate& offset, OptTM dateCal, const std::wstring& title,
+                      Vocabulary vocabulary, bool isFrench);
+  OptTM matchEnTimeOnDate(const std::wstring& title, std::tm* calendar, bool hasDate, bool bareTimeRolls,
+                          Vocabulary vocabulary, bool isFrench);
+  OptTM mergeEnDate(int dateKind, const NLPRecognizeDate& winner, OptTM timeCal);
+  void rollBareTime(std::tm* record, const std::wstring& title, Vocabulary vocabulary, bool isFrench);
+  void rollNamedHour(std::tm* record, const std::wstring& title, Vocabulary vocabulary);
+  bool titleHasClockTime(const std::wstring& title);
+  int writtenHourOf(const std::wstring& title, Vocabulary vocabulary);
 
   // ---- word-language: weekdays, named days, Japanese holidays ---------------------------------
   std::optional<NLPRecognizeDate> matchEnWeekDay(std::wstring title, Vocabulary vocabulary);
   std::optional<NLPRecognizeDate> matchEnSpecialDate(std::wstring title, Vocabulary vocabulary);
   std::optional<NLPRecognizeDate> matchJapanHoliday(std::wstring title, std::wstring language);
   // [words-weekdays: further declarations go here]
+  // Moves a weekday of this week by the word in front of it (next, last, on, this or none).
+  void applyWeekDayLead(std::tm* record, std::wstring lead, Vocabulary vocabulary);
 
   // ---- word-language: clock times and named hours ---------------------------------------------
   OptTM matchEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary, bool hasDate, bool isFrench);
@@ -111,12 +131,30 @@ class NLPNativeTitleParser {
   std::vector<std::wstring> getEnTimePattern(Vocabulary vocabulary);
   std::wstring getAmPmPattern(Vocabulary vocabulary);
   // [words-time: further declarations go here]
+  int ampmToNumber(std::wstring text, Vocabulary vocabulary);
+  void addOverdueTime(std::tm* record, std::wstring hourText, std::wstring minuteText);
+  std::map<std::wstring, std::pair<int, int>> getEnSpecialHourMap(Vocabulary vocabulary);
+  // The three families of matchEnTime and the named-hour day parts.
+  OptTM matchEnAtTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary, bool hasDate,
+                      bool isFrench);
+  OptTM matchEnCompactTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary, bool hasDate);
+  OptTM matchEnListTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary, bool hasDate,
+                        bool isFrench);
+  bool readListDayPart(std::tm* record, int number, std::wstring dayPart, const std::wstring& title,
+                       Vocabulary vocabulary);
+  bool rollPassedTimeOnWeeklyRule(std::tm* record, int hour);
+  OptTM matchEnDayPart(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary);
 
   // ---- word-language: offsets, advance reminders, repeat rules ---------------------------------
   std::optional<NLPRecognizeDate> matchEnAfterTime(std::wstring title, Vocabulary vocabulary);
   std::wstring matchEnAdvanceTime(std::wstring title, Vocabulary vocabulary);
   bool repeatHelper(const std::wstring title, Vocabulary vocabulary);
   // [words-repeat: further declarations go here]
+  std::optional<NLPMorvaneDuration> getDuration(int count, std::wstring unit, bool isPositive, Vocabulary vocabulary);
+  std::optional<NLPMorvaneDuration> getDuration(std::wstring count, std::wstring unit, bool isPositive,
+                                                Vocabulary vocabulary);
+  std::optional<NLPMorvaneDuration> getDuration(std::wstring count, std::wstring unit, Vocabulary vocabulary);
+  int findInterval(std::wstring title, Vocabulary vocabulary);
 
   // ---- word-language: numeric dates, month-name dates, repeats with an end ----------------------
   std::optional<NLPRecognizeDate> matchEnDate(std::wstring title, Vocabulary vocabulary);

@@ -1,0 +1,140 @@
+// The compact family ("930am", "12.30pm") and the list family of clock times:
+// digits with an am/pm word, hh:mm, and hours in digits or words with the
+// word for o'clock. A bare hour may take its half of the day from a
+// day-part word anywhere in the title.
+#include <regex>
+
+#include "core/title_parser.h"
+#include "vocabulary/keys.h"
+#include "vocabulary/pattern_kit.h"
+#include "vocabulary/text_kit.h"
+
+namespace nlpdate {
+
+namespace {
+
+std::wstring hourWords(Vocabulary& vocabulary) {
+  const std::wstring* keys[] = {&ONE,       &TWO,       &THREE,    &FOUR,      &FIVE,       &SIX,
+                                &SEVEN,     &EIGHT,     &NINE,     &TEN,       &ELEVEN,     &TWELVE,
+                                &THIRTEEN,  &FOURTEEN,  &FIFTEEN,  &SIXTEEN,   &SEVENTEEN,  &EIGHTEEN,
+                                &NINETEEN,  &TWENTY,    &TWENTY_ONE, &TWENTY_TWO, &TWENTY_THREE, &TWENTY_FOUR};
+  std::wstring words;
+  for (const std::wstring* key : keys) words += (words.empty() ? L"" : L"|") + vocabulary[*key];
+  return words;
+}
+
+std::wstring amWordsPattern(Vocabulary& vocabulary) {
+  return L"(" + addWordBorderInStart(vocabulary[MORNING]) + L"|" + addWordBorderInStart(vocabulary[MIDNIGHT]) +
+         L")()";
+}
+
+std::wstring pmWordsPattern(Vocabulary& vocabulary) {
+  return L"(" + addWordBorderInStart(vocabulary[AFTERNOON]) + L"|" + addWordBorderInStart(vocabulary[EVENING]) +
+         L"|" + addWordBorderInStart(vocabulary[NIGHT]) + L"|" + addWordBorderInStart(vocabulary[TONIGHT]) + L"|" +
+         addWordBorderInStart(vocabulary[NOON]) + L")";
+}
+
+}  // namespace
+
+std::vector<std::wstring> NLPNativeTitleParser::getEnTimePattern(Vocabulary vocabulary) {
+  const std::wstring lead = L"(" + addWordBorderInStart(vocabulary[ON_AT]) + L")?";
+  const std::wstring ampm = vocabulary[AM_PM];
+  const std::wstring clock = vocabulary[CLOCK];
+  const std::wstring minute = vocabulary[MINUTE];
+  const std::wstring words = hourWords(vocabulary);
+  return {
+      L"\\s*" + lead + L"\\s*(\\b)(2[0-4]|[0-1]?[0-9])(?::([0-5]?[0-9]))? ?(" + ampm + L")()\\s*",
+      lead + L"\\s*((2[0-4]|[0-1]?[0-9])[:|：]([0-5][0-9]))(\\b)()\\s*",
+      lead + L"\\s*((2[0-4]|[0-1]?[0-9])\\s*(?:" + clock + L")\\s*([0-5][0-9])?(?:" + minute + L")?) ?(" + ampm +
+          L")?()\\s*",
+      lead + L"\\s*(\\b)(" + words + L")( ?)(" + ampm + L")\\b()\\s*",
+      lead + L"\\s*()(" + words + L")\\s?(?:" + clock + L")\\s*(\\d)?(?:" + minute + L")?()()\\s*",
+  };
+}
+
+OptTM NLPNativeTitleParser::matchEnCompactTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary,
+                                               bool hasDate) {
+  std::wsmatch match;
+  const std::wstring pattern = L"\\b(\\d{1,2})\\.?(\\d{2})\\s*(" + vocabulary[AM_PM] + L")";
+  if (!std::regex_search(title, match, compilePattern(pattern, PatternCase::Insensitive))) return std::nullopt;
+  parserDueDate.reminder.push_back(ON_TIME);
+  TMPtr record = getDefaultTM();
+  copyTM(calendar, record.get());
+  if (!hasDate) setTMToDefaultTime(record.get());
+  const int hour = translateNum(match[1].str());
+  const std::wstring dayPart = toLowerCase(match[3].str());
+  if (containStr(dayPart, vocabulary[AM])) {
+    record->tm_hour = hour >= 12 ? hour - 12 : hour;
+  } else if (containStr(dayPart, vocabulary[PM])) {
+    record->tm_hour = hour % 12 + 12;
+  }
+  record->tm_min = translateNum(match[2].str());
+  parserDueDate.recognizeStrings.push_back(match[0].str());
+  parserDueDate.reminder.push_back(ON_TIME);
+  return record;
+}
+
+bool NLPNativeTitleParser::readListDayPart(std::tm* record, int number, std::wstring dayPart,
+                                           const std::wstring& title, Vocabulary vocabulary) {
+  trim(dayPart);
+  if (!dayPart.empty()) {
+    if (ampmToNumber(dayPart, vocabulary) == 1) {
+      record->tm_hour = number == 12 ? 12 : record->tm_hour + 12;
+    } else {
+      record->tm_hour = number == 12 ? 0 : number;
+    }
+    return true;
+  }
+  // No am/pm word beside the hour: a day-part word anywhere in the title
+  // decides, and with both kinds the pm reading wins.
+  bool seen = false;
+  std::wsmatch match;
+  if (std::regex_search(title, match, compilePattern(amWordsPattern(vocabulary), PatternCase::Insensitive))) {
+    parserDueDate.recognizeStrings.push_back(match[0].str());
+    if (record->tm_hour >= 12) record->tm_hour -= 12;
+    seen = true;
+  }
+  if (std::regex_search(title, match, compilePattern(pmWordsPattern(vocabulary), PatternCase::Insensitive))) {
+    parserDueDate.recognizeStrings.push_back(match[0].str());
+    if (record->tm_hour <= 11) record->tm_hour += 12;
+    seen = true;
+  }
+  return seen;
+}
+
+OptTM NLPNativeTitleParser::matchEnListTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary,
+                                            bool hasDate, bool isFrench) {
+  std::wsmatch match;
+  bool found = false;
+  for (const std::wstring& pattern : getEnTimePattern(vocabulary)) {
+    if (std::regex_search(title, match, compilePattern(pattern, PatternCase::Insensitive))) {
+      found = true;
+      break;
+    }
+  }
+  if (!found) return std::nullopt;
+  TMPtr record = getDefaultTM();
+  copyTM(calendar, record.get());
+  parserDueDate.reminder.push_back(ON_TIME);
+  // A date that the repeat stage fixed wins over the calendar handed in.
+  if (parserDueDate.startDate) copyTM(tmFromTimePoint(*parserDueDate.startDate).get(), record.get());
+  if (!hasDate) setTMToDefaultTime(record.get());
+  const int number = matchEnglishNum(match[3].str(), vocabulary);
+  const std::wstring dayPart = match[5].str();
+  record->tm_hour = (number <= 12 && !dayPart.empty() && !isFrench) ? number % 12 : number;
+  std::wstring minute = match[4].str();
+  trim(minute);
+  record->tm_min = minute.empty() ? 0 : translateNum(minute);
+  bool dayPartSeen = false;
+  if (number <= 12 && !isFrench) dayPartSeen = readListDayPart(record.get(), number, dayPart, title, vocabulary);
+  // A bare hour below 12 is left as written; the driver settles it.
+  const bool settled = isFrench || (number < 12 && dayPart.empty() && !dayPartSeen);
+  if (!settled && !hasDate && record->tm_hour != 0 && std::mktime(record.get()) < today()) {
+    record->tm_mday += 1;
+  }
+  parserDueDate.recognizeStrings.push_back(match[0].str());
+  parserDueDate.reminder.push_back(ON_TIME);
+  return record;
+}
+
+}  // namespace nlpdate
