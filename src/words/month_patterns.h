@@ -1,0 +1,28 @@
+// Pattern texts of the month-name dates. The range recognisers share the main
+// pattern, whose group numbers they read: 5 day before the month, 7 month,
+// 9 day behind it, 12 year.
+#pragma once
+
+#include <string>
+
+#include "core/types.h"
+
+namespace nlpdate {
+
+std::wstring getEnMonthRecognition(Vocabulary vocabulary);
+// Second looks when two numbers stand around the month.
+std::wstring getEnMonthRecognitionStartWithMonth(Vocabulary vocabulary);
+std::wstring getEnMonthRecognitionStartWithDay(Vocabulary vocabulary);
+
+// The other patterns of matchEnMonth: day, month and clock time; clock time,
+// month and day; a bare ordinal day; a day before a month of the languages
+// that the main pattern's borders keep out.
+std::wstring getEnMonthDayTimePattern(Vocabulary vocabulary);
+std::wstring getEnMonthTimeDayPattern(Vocabulary vocabulary);
+std::wstring getEnMonthOrdinalDayPattern(Vocabulary vocabulary);
+std::wstring getEnMonthDayFirstPattern(Vocabulary vocabulary);
+
+// Whether the vocabulary's language code holds the two letters.
+bool isVocabularyLanguage(Vocabulary& vocabulary, const wchar_t* code);
+
+}  // namespace nlpdate

@@ -1,0 +1,27 @@
+// The readers behind matchEnMonth, one per pattern family; each turns a match
+// into the result of the recogniser.
+#pragma once
+
+#include <regex>
+#include <string>
+
+#include "core/title_parser.h"
+
+namespace nlpdate {
+
+// Which groups of a day-month-clock pattern hold what.
+struct MonthClockGroups {
+  int day;
+  int month;
+  int hour;
+  int minute;
+};
+
+NLPRecognizeDate readMonthWithClock(NLPNativeTitleParser& parser, const std::wsmatch& match,
+                                    const MonthClockGroups& groups, Vocabulary& vocabulary);
+NLPRecognizeDate readMainMonthDate(NLPNativeTitleParser& parser, const std::wstring& title,
+                                   const std::wsmatch& match, Vocabulary& vocabulary);
+NLPRecognizeDate readOrdinalDay(NLPNativeTitleParser& parser, const std::wsmatch& match);
+NLPRecognizeDate readDayFirstMonth(NLPNativeTitleParser& parser, const std::wsmatch& match, Vocabulary& vocabulary);
+
+}  // namespace nlpdate

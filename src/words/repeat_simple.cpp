@@ -1,0 +1,45 @@
+// Repeats told by one word ("daily", "weekly", ...) and the official
+// working-day rule, which skips holidays and weekends.
+#include <regex>
+
+#include "vocabulary/pattern_kit.h"
+#include "words/repeat_patterns.h"
+#include "words/repeat_steps.h"
+
+namespace nlpdate {
+
+bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
+  for (const auto& [pattern, frequency] : repeatOneWordPatterns(vocabulary)) {
+    std::wsmatch match;
+    if (!std::regex_search(title, match, compilePattern(pattern, PatternCase::Insensitive))) continue;
+    StringRRule rule;
+    rule.setFreq(frequency);
+    rule.setInterval(1);
+    TMPtr record = parser.getDefaultTM();
+    clearClock(record.get());
+    storeRepeat(parser, rule, match[0].str(), record.get());
+    return true;
+  }
+  return false;
+}
+
+bool matchOfficialWorkDays(NLPNativeTitleParser& parser, const std::wstring& title) {
+  std::wsmatch match;
+  if (!std::regex_search(title, match, compilePattern(officialWorkDayPattern(), PatternCase::Sensitive))) {
+    return false;
+  }
+  // The first official working day from today on; the rule text is fixed and
+  // no rule record is kept.
+  TMPtr record = parser.getDefaultTM();
+  while (!parser.isOfficialWorkDay(record.get())) {
+    record->tm_mday += 1;
+    mkTM(record.get());
+  }
+  clearClock(record.get());
+  parser.parserDueDate.startDate = timePointFromTM(*record);
+  parser.parserDueDate.recognizeStrings.push_back(match[0].str());
+  parser.parserDueDate.repeatFlag = L"RRULE:FREQ=DAILY;INTERVAL=1;MV_SKIP=HOLIDAY,WEEKEND";
+  return true;
+}
+
+}  // namespace nlpdate
