@@ -1,9 +1,9 @@
 // Time per title over a corpus of realistic task titles in every language,
 // through the facade as a host calls it. Run: build/bin/nlpdate_bench
+// (add --benchmark_filter=ParseLanguage/ru to time one language).
 #include <benchmark/benchmark.h>
 
 #include <fstream>
-#include <iostream>
 #include <string>
 #include <vector>
 
@@ -31,6 +31,14 @@ const std::vector<Title>& corpus() {
   return titles;
 }
 
+std::vector<Title> titlesOf(const std::string& language) {
+  std::vector<Title> picked;
+  for (const Title& title : corpus()) {
+    if (title.language == language) picked.push_back(title);
+  }
+  return picked;
+}
+
 class Language : public nlpdate::NLPNativeParserDataSource {
  public:
   std::string code = "en";
@@ -38,9 +46,12 @@ class Language : public nlpdate::NLPNativeParserDataSource {
   std::optional<bool> monthFirst() const override { return true; }
 };
 
-// One iteration parses every title of the corpus once; the counter gives time per title.
-void BM_ParseCorpus(benchmark::State& state) {
-  const auto& titles = corpus();
+// One iteration parses every given title once; the counter gives time per title.
+void parseAll(benchmark::State& state, const std::vector<Title>& titles) {
+  if (titles.empty()) {
+    state.SkipWithError("no titles: is the corpus file there?");
+    return;
+  }
   auto language = std::make_shared<Language>();
   nlpdate::NLPNativeParser parser;
   parser.setDataSource(language);
@@ -57,7 +68,18 @@ void BM_ParseCorpus(benchmark::State& state) {
   state.counters["time_per_title"] =
       benchmark::Counter(static_cast<double>(parsed), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
+
+void BM_ParseCorpus(benchmark::State& state) { parseAll(state, corpus()); }
 BENCHMARK(BM_ParseCorpus)->Unit(benchmark::kMillisecond);
+
+void BM_ParseLanguage(benchmark::State& state, const std::string& language) { parseAll(state, titlesOf(language)); }
+BENCHMARK_CAPTURE(BM_ParseLanguage, en, std::string("en"))->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_ParseLanguage, zh_CN, std::string("zh_CN"))->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_ParseLanguage, ja, std::string("ja"))->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_ParseLanguage, ru, std::string("ru"))->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_ParseLanguage, fr, std::string("fr"))->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_ParseLanguage, ko, std::string("ko"))->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_ParseLanguage, pt, std::string("pt"))->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -71,6 +71,8 @@ class NLPNativeParser : public NLPNativeParserDataSource {
   // Throws InvalidUtf8Error for invalid UTF-8, HolidayTextError for a bad
   // holiday text.
   std::string parse(const std::string& title, std::optional<Clock::time_point> baseDate = std::nullopt) const;
+  // The same for a C string; a null title gives "" and reads no setting.
+  std::string parse(const char* title, std::optional<Clock::time_point> baseDate = std::nullopt) const;
 
   // Fixes "now" for replay and tests (seconds since the epoch); 0 or an empty
   // optional goes back to the system clock.

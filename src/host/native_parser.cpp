@@ -53,6 +53,11 @@ std::string NLPNativeParser::parse(const std::string& title, std::optional<Clock
   return wideToUtf8(parser.parse(wideTitle, baseText, language));
 }
 
+std::string NLPNativeParser::parse(const char* title, std::optional<Clock::time_point> baseDate) const {
+  if (title == nullptr) return std::string();
+  return parse(std::string(title), baseDate);
+}
+
 std::string NLPNativeParser::stringFromDate(Clock::time_point date) {
   std::time_t seconds = Clock::to_time_t(date);
   std::tm local{};
