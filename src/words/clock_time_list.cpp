@@ -18,8 +18,9 @@ std::wstring hourWords(Vocabulary& vocabulary) {
                                 &SEVEN,     &EIGHT,     &NINE,     &TEN,       &ELEVEN,     &TWELVE,
                                 &THIRTEEN,  &FOURTEEN,  &FIFTEEN,  &SIXTEEN,   &SEVENTEEN,  &EIGHTEEN,
                                 &NINETEEN,  &TWENTY,    &TWENTY_ONE, &TWENTY_TWO, &TWENTY_THREE, &TWENTY_FOUR};
+  // One alternative per key, bars and all: a missing word stays an empty alternative.
   std::wstring words;
-  for (const std::wstring* key : keys) words += (words.empty() ? L"" : L"|") + vocabulary[*key];
+  for (const std::wstring* key : keys) words += (key == keys[0] ? L"" : L"|") + vocabulary[*key];
   return words;
 }
 

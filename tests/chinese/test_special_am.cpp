@@ -66,5 +66,16 @@ TEST(SpecialAmTest, OtherTimesStayAsTheyAre) {
   EXPECT_EQ(corrected(kAfternoon, "2024-03-07T09:00:00", "9"), "2024-03-07T09:00:00");    // yesterday
 }
 
+TEST(SpecialAmTest, HourAlreadyRolledToTomorrowMorningStays) {
+  ScopedTZ zone("UTC");
+  // A bare 3 said at 15:30 has been moved to tomorrow 03:00 before this step;
+  // it lies beyond tomorrow's midnight and ahead of now, so it stays.
+  EXPECT_EQ(corrected("2024-03-08T15:30:00", "2024-03-09T03:00:00", "3点", "zh_CN"), "2024-03-09T03:00:00");
+  // The same hour still today and passed, with the 24-hour word: pm all the same.
+  EXPECT_EQ(corrected("2024-03-08T15:30:00", "2024-03-08T03:00:00", "at 3"), "2024-03-08T15:00:00");
+  // A pm word anywhere in the title keeps the hour.
+  EXPECT_EQ(corrected("2024-03-08T15:30:00", "2024-03-08T03:00:00", "3 tonight"), "2024-03-08T03:00:00");
+}
+
 }  // namespace
 }  // namespace nlpdate

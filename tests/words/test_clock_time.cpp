@@ -136,6 +136,24 @@ TEST(AtTimeTest, WeeklyRuleMovesAPassedTimeToAListedDayOrToPm) {
   EXPECT_EQ(timeWithWeeklyRule("2024-03-08T22:00:00", "at 9", {Friday, Saturday}).time, "2024-03-09T09:00:00");
 }
 
+TEST(AtTimeTest, WeeklyRulePmTodayIsTakenEvenOnAnUnlistedDay) {
+  ScopedTZ zone("UTC");
+  // Saturday 10:00 with a rule on work days: 21:00 still lies ahead, so the
+  // pm reading wins before the listed days are looked at.
+  const std::list<WeekDay> workDays = {Monday, Tuesday, Wednesday, Thursday, Friday};
+  EXPECT_EQ(timeWithWeeklyRule("2024-03-09T10:00:00", "at 9", workDays).time, "2024-03-09T21:00:00");
+  // Saturday 22:00: both readings have passed, so the next work day.
+  EXPECT_EQ(timeWithWeeklyRule("2024-03-09T22:00:00", "at 9", workDays).time, "2024-03-11T09:00:00");
+  // A rule that is not weekly leaves the passed time to the overdue rules.
+  NLPNativeTitleParser parser = parserAt("2024-03-09T22:00:00");
+  StringRRule daily;
+  daily.setFreq(NLPFrequency::DAILY);
+  parser.parserDueDate.repeatRule = daily;
+  TMPtr calendar = parser.getDefaultTM();
+  OptTM found = parser.matchEnTime(L"at 9", calendar.get(), NLPTranslation::getTransKeyToValue(L"en"), false, false);
+  EXPECT_EQ(tmText(*found.value()), "2024-03-10T09:00:00");
+}
+
 TEST(CompactTimeTest, FourDigitsWithAnAmWord) {
   ScopedTZ zone("UTC");
   TimeRun run = timeAt(kTen, "930am");
@@ -297,6 +315,27 @@ TEST(TimePatternTest, EnglishTexts) {
             "(\\bon|\\bat)?\\s*()(one|two|three|four|five|six|seven|eight|nine|ten|eleven|twelve|thirteen|"
             "fourteen|fifteen|sixteen|seventeen|eighteen|nineteen|twenty|twenty one|twenty two|twenty three|"
             "twenty four)\\s?(?:clock|o'clock)\\s*(\\d)?(?:minutes|minute|mins|min)?()()\\s*");
+}
+
+TEST(TimePatternTest, HourWordsKeepOneBarPerWordEvenWhenAWordIsMissing) {
+  // Every one of the 24 hour words stands in the alternation, an empty one
+  // as an empty alternative; a missing first word must not drop its bar.
+  NLPNativeTitleParser parser;
+  Vocabulary en = NLPTranslation::getTransKeyToValue(L"en");
+  en.erase(ONE);
+  std::vector<std::wstring> list = parser.getEnTimePattern(en);
+  EXPECT_NE(narrow(list[3]).find("(\\b)(|two|three|"), std::string::npos) << narrow(list[3]);
+  EXPECT_NE(narrow(list[4]).find("()(|two|three|"), std::string::npos) << narrow(list[4]);
+  // With the empty alternative, an am/pm word alone reads as hour word "" (hour 0) through list pattern 4.
+  ScopedTZ zone("UTC");
+  NLPNativeTitleParser now = parserAt(kTen);
+  TMPtr calendar = now.getDefaultTM();
+  OptTM found = now.matchEnTime(L"call pm", calendar.get(), en, false, false);
+  ASSERT_TRUE(found);
+  EXPECT_EQ(tmText(**found), "2024-03-08T12:00:00");
+  Vocabulary full = NLPTranslation::getTransKeyToValue(L"en");
+  NLPNativeTitleParser other = parserAt(kTen);
+  EXPECT_FALSE(other.matchEnTime(L"call pm", calendar.get(), full, false, false));
 }
 
 }  // namespace

@@ -143,6 +143,17 @@ TEST(DriverTest, OffsetPathKeepsTheRepeatDateAndTakesTheTimeOfDay) {
   EXPECT_EQ(narrow(formatDateText(*parser.parserDueDate.startDate)), "2024-03-08T19:00:00");
 }
 
+TEST(DriverTest, OffsetPathTakesOnlyTheTimeOfDayOfARolledNamedHour) {
+  ScopedTZ zone("UTC");
+  // At 13:00 noon has passed and the named-hour roll moves it a day, but the
+  // offset path copies only hour, minute and second onto the offset's start.
+  EXPECT_EQ(parseAt("2024-03-08T13:00:00", "in 2 days at noon"),
+            json("\"at noon\",\"in 2 days\"", "2024-03-10T12:00:00", kOnTime, false));
+  // Morning is over at 13:00, so the day part means tomorrow 9:00; again only the time counts.
+  EXPECT_EQ(parseAt("2024-03-08T13:00:00", "in 2 days morning"),
+            json("\" morning\",\"in 2 days\"", "2024-03-10T09:00:00", kOnTime, false));
+}
+
 TEST(DriverTest, BareHourWithNoDateIsPmTodayOrTomorrow) {
   ScopedTZ zone("UTC");
   EXPECT_EQ(parseAt(kTen, "9 o'clock"), json("\"9 o'clock\"", "2024-03-08T21:00:00", kOnTime, false));
