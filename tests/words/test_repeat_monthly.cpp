@@ -133,5 +133,24 @@ TEST_F(RepeatTest, YearPatternCarriesTheDateOnlyBehindTheLastWordForOn) {
   EXPECT_EQ(outcome.start, "2025-03-01T00:00:00");
 }
 
+TEST_F(RepeatTest, MonthRollsCrossTheYearEnd) {
+  constexpr const char* DEC = "2024-12-20T10:00:00";
+  EXPECT_EQ(runRepeat(DEC, "every 5th").start, "2025-01-05T00:00:00");
+  EXPECT_EQ(runRepeat(DEC, "5th day of every month").start, "2025-01-05T00:00:00");
+  EXPECT_EQ(runRepeat(DEC, "at the beginning of every month").start, "2025-01-01T00:00:00");
+  RepeatOutcome monday = runRepeat(DEC, "every month on the first monday");
+  EXPECT_EQ(monday.flag, "RRULE:FREQ=MONTHLY;INTERVAL=1;BYDAY=1MO");
+  EXPECT_EQ(monday.start, "2025-01-06T00:00:00");
+}
+
+TEST_F(RepeatTest, DayBeyondTheMonthSpillsIntoTheNext) {
+  // April has 30 days: the 31st is normalised to 1 May, which is not past.
+  constexpr const char* APR = "2024-04-05T10:00:00";
+  RepeatOutcome outcome = runRepeat(APR, "every 31st");
+  EXPECT_EQ(outcome.flag, MONTHLY_1);
+  EXPECT_EQ(outcome.start, "2024-05-01T00:00:00");
+  EXPECT_EQ(runRepeat(APR, "every 1 and 31").start, "2024-05-01T00:00:00");
+}
+
 }  // namespace
 }  // namespace nlpdate::testing
