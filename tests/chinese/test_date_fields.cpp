@@ -159,3 +159,18 @@ TEST_F(DateFields, MonthThenMissingDayNormalisesIntoNextMonth) {
   parser.setDayOfMonth(L"30", record);
   EXPECT_EQ(tmText(*record), "2024-03-01T00:00:00");
 }
+
+// The words for next month only count the month on; the record is left for the day setter to normalise.
+TEST_F(DateFields, NextMonthWordsLeaveTheRecordRaw) {
+  TMPtr record = at(2024, 1, 31);
+  parser.setMonth(L"下", record);
+  EXPECT_EQ(record->tm_mon, 1);
+  EXPECT_EQ(record->tm_mday, 31);
+}
+
+// Any value from -99 below 90 takes 2000: -5 is 1995.
+TEST_F(DateFields, NegativeShortYearAddsTwoThousand) {
+  TMPtr record = at(2024, 3, 5);
+  parser.setYear(L"-5", record);
+  EXPECT_EQ(record->tm_year + 1900, 1995);
+}

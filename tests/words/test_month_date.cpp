@@ -363,3 +363,28 @@ TEST_F(MonthDate, YearBehindMonthWithComma) {
   // A month alone outside the present month and year is its 1st; a written year never rolls.
   EXPECT_EQ(start(), "2023-03-01T00:00:00");
 }
+
+// The main pattern reads "1" before "2월"; the month-first second look finds "12월" with
+// the day behind it, makes the record anew and takes its text, "의" of "회의" included.
+TEST_F(MonthDate, KoreanDecemberSettledByMonthFirstLook) {
+  read("2024-03-08T10:00:00", "회의 12월 5일", "ko");
+  ASSERT_TRUE(result);
+  EXPECT_EQ(text(), "의 12월 5일");
+  EXPECT_EQ(position(), 2);
+  EXPECT_EQ(start(), "2024-12-05T00:00:00");
+}
+
+// Only "mid" reads as 15; the French "mi" reads as day 0, the last day of the month before.
+TEST_F(MonthDate, FrenchMiReadsAsDayZero) {
+  read("2024-03-08T10:00:00", "réunion mi mars", "fr");
+  ASSERT_TRUE(result);
+  EXPECT_EQ(text(), " mi mars");
+  // February 29 has passed, so a year on: February 29 of 2025 is March 1.
+  EXPECT_EQ(start(), "2025-03-01T00:00:00");
+}
+
+TEST_F(MonthDate, ClockTimeKeepsTheSecondsOfNow) {
+  read("2024-03-08T10:20:30", "12 mar 14:00");
+  ASSERT_TRUE(result);
+  EXPECT_EQ(start(), "2024-03-12T14:00:30");
+}

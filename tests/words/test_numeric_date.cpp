@@ -222,3 +222,52 @@ TEST_F(NumericDate, OtherLanguagesShareTheDigits) {
   EXPECT_EQ(start(read(kNow, "оплатить 31/12/2024", false, "ru")), "2024-12-31T00:00:00");
   EXPECT_EQ(start(read(kNow, "payer 31-12-2024", false, "fr")), "2024-12-31T00:00:00");
 }
+
+// The word for next stands without brackets of its own, so with several values the
+// alternation splits: an earlier value alone is a match with no unit, and the day stays.
+TEST_F(NumericDate, NextWordOfSeveralValuesMatchesAlone) {
+  auto portuguese = read(kNow, "relatório próximo mês", true, "pt");
+  ASSERT_TRUE(portuguese);
+  EXPECT_EQ(text(portuguese), "próximo");
+  EXPECT_EQ(portuguese->getRecognizeStringStartPosition(), 10);
+  EXPECT_EQ(start(portuguese), "2024-03-08T00:00:00");
+  auto french = read(kNow, "rapport mois prochain", false, "fr");
+  ASSERT_TRUE(french);
+  EXPECT_EQ(text(french), "prochain");
+  EXPECT_EQ(start(french), "2024-03-08T00:00:00");
+  // The last value carries the unit behind it.
+  auto english = read(kNow, "rapport next month", false, "fr");
+  ASSERT_TRUE(english);
+  EXPECT_EQ(text(english), "next month");
+  EXPECT_EQ(start(english), "2024-04-01T00:00:00");
+}
+
+TEST_F(NumericDate, EndOfMonthInOtherLanguages) {
+  auto french = read("2024-02-10T09:00:00", "rapport fin du mois", false, "fr");
+  ASSERT_TRUE(french);
+  EXPECT_EQ(text(french), "fin du mois");
+  EXPECT_EQ(start(french), "2024-02-29T00:00:00");
+  EXPECT_EQ(start(read(kNow, "relatório fim do mês", false, "pt")), "2024-03-31T00:00:00");
+}
+
+TEST_F(NumericDate, FullYearWithoutSecondDivider) {
+  auto result = read(kNow, "31/122024", false);
+  ASSERT_TRUE(result);
+  EXPECT_EQ(text(result), "31/122024");
+  EXPECT_EQ(start(result), "2024-12-31T00:00:00");
+}
+
+// The base date gives the year; the clock's today decides the roll, which adds one year only.
+TEST_F(NumericDate, BaseDateYearAndOneRollOnly) {
+  Vocabulary english = NLPTranslation::getTransKeyToValue(L"en");
+  NLPNativeTitleParser later = parserAt(kNow);
+  later.baseDate = timePointFromSeconds(localSeconds("2025-06-20T15:00:00"));
+  auto ahead = later.matchEnDate(L"3/4", english);
+  ASSERT_TRUE(ahead);
+  EXPECT_EQ(tmText(*ahead->getStartCal().value()), "2025-03-04T00:00:00");
+  NLPNativeTitleParser earlier = parserAt(kNow);
+  earlier.baseDate = timePointFromSeconds(localSeconds("2023-06-20T15:00:00"));
+  auto behind = earlier.matchEnDate(L"3/4", english);
+  ASSERT_TRUE(behind);
+  EXPECT_EQ(tmText(*behind->getStartCal().value()), "2024-03-04T00:00:00");
+}

@@ -363,3 +363,31 @@ TEST_F(RepeatUntil, PortugueseForWeeks) {
   ASSERT_TRUE(found);
   EXPECT_EQ(text(), "cada dia por");
 }
+
+// "before" holds "for": the For form is chosen, does not fit, and no other form is tried.
+TEST_F(RepeatUntil, ForMarkerInsideAWordFallsThrough) {
+  read(kNow, "every day before lunch");
+  expectUntouched();
+}
+
+TEST_F(RepeatUntil, FromTodayUntilTomorrow) {
+  read(kNow, "every day from today until tomorrow");
+  ASSERT_TRUE(found);
+  EXPECT_EQ(start(), "2024-03-08T00:00:00");
+  EXPECT_EQ(rule(), "RRULE:FREQ=DAILY;INTERVAL=1;UNTIL=20240309");
+}
+
+TEST_F(RepeatUntil, FromLastMonthAloneIsItsFirst) {
+  read(kNow, "every day from 10 march to april");
+  ASSERT_TRUE(found);
+  EXPECT_EQ(start(), "2024-03-10T00:00:00");
+  EXPECT_EQ(rule(), "RRULE:FREQ=DAILY;INTERVAL=1;UNTIL=20240401");
+}
+
+TEST_F(RepeatUntil, DayOfMonthWithNamedStartAndWrittenEnd) {
+  read(kNow, "every 20th start today end on 25 march");
+  ASSERT_TRUE(found);
+  EXPECT_EQ(start(), "2024-03-20T00:00:00");
+  EXPECT_EQ(rule(), "RRULE:FREQ=MONTHLY;INTERVAL=1;BYMONTHDAY=20;UNTIL=20240325");
+  EXPECT_EQ(text(), "every 20th start today end on 25 march");
+}
