@@ -7,24 +7,26 @@
 namespace nlpdate::cli {
 
 namespace {
-// Marks every place where a recognised string occurs in the (lower-cased) title.
+// Marks every place where a recognised string occurs in the (lower-cased)
+// title; neighbouring parts keep brackets of their own.
 std::string highlight(const std::string& title, const std::vector<std::string>& parts, bool colour) {
   const std::string lowered = NLPNativeParser::lowercase(title);
   const std::string& shown = lowered.size() == title.size() ? title : lowered;
-  std::vector<bool> marked(lowered.size(), false);
-  for (const std::string& part : parts) {
+  std::vector<int> owner(lowered.size(), -1);
+  for (size_t index = 0; index < parts.size(); ++index) {
+    const std::string& part = parts[index];
     if (part.empty()) continue;
     for (size_t at = lowered.find(part); at != std::string::npos; at = lowered.find(part, at + part.size())) {
-      for (size_t i = at; i < at + part.size(); ++i) marked[i] = true;
+      for (size_t i = at; i < at + part.size(); ++i) owner[i] = static_cast<int>(index);
     }
   }
   const std::string open = colour ? "\x1b[1;33m" : "[";
   const std::string close = colour ? "\x1b[0m" : "]";
   std::string out;
   for (size_t i = 0; i < shown.size(); ++i) {
-    if (marked[i] && (i == 0 || !marked[i - 1])) out += open;
+    if (owner[i] >= 0 && (i == 0 || owner[i - 1] != owner[i])) out += open;
     out.push_back(shown[i]);
-    if (marked[i] && (i + 1 == shown.size() || !marked[i + 1])) out += close;
+    if (owner[i] >= 0 && (i + 1 == shown.size() || owner[i + 1] != owner[i])) out += close;
   }
   return out;
 }

@@ -91,6 +91,18 @@ TEST(CliSingleTest, PrettyOutputMarksRecognisedPartsWithBracketsWhenNotATerminal
   EXPECT_EQ(result.out.find('\x1b'), std::string::npos);
 }
 
+TEST(CliSingleTest, PrettyOutputGivesNeighbouringPartsBracketsOfTheirOwn) {
+  auto result = runCli(fixed({"--pretty", "Lunch with Ann tomorrow at 1pm"}));
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out,
+            "Lunch with Ann [tomorrow ][at 1pm]\n"
+            "  repeat:    -\n"
+            "  start:     2024-03-09T13:00:00\n"
+            "  end:       -\n"
+            "  reminders: TRIGGER:-PT0S\n"
+            "  all-day:   no\n");
+}
+
 TEST(CliSingleTest, HelpAndVersion) {
   auto help = runCli({"--help"});
   EXPECT_EQ(help.status, 0);
