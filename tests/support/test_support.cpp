@@ -1,5 +1,7 @@
 #include "support/test_support.h"
 
+#include "nlpdate/nlpdate.h"
+
 #include <sys/wait.h>
 
 #include <cstdio>
@@ -51,41 +53,10 @@ std::string parseAt(const std::string& now, const std::string& title, const std:
   return narrow(parser.parse(wide(title), wide(baseDate), wide(language)));
 }
 
-std::wstring wide(const std::string& utf8) {
-  std::wstring out;
-  for (size_t i = 0; i < utf8.size();) {
-    unsigned char lead = static_cast<unsigned char>(utf8[i]);
-    int extra = lead < 0x80 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
-    unsigned long cp = extra == 0 ? lead : extra == 1 ? (lead & 0x1F) : extra == 2 ? (lead & 0x0F) : (lead & 0x07);
-    for (int k = 1; k <= extra && i + k < utf8.size(); ++k) cp = (cp << 6) | (utf8[i + k] & 0x3F);
-    out.push_back(static_cast<wchar_t>(cp));
-    i += extra + 1;
-  }
-  return out;
-}
+// The library's own strict conversions; test texts are valid UTF-8.
+std::wstring wide(const std::string& utf8) { return utf8ToWide(utf8); }
 
-std::string narrow(const std::wstring& text) {
-  std::string out;
-  for (wchar_t unit : text) {
-    unsigned long cp = static_cast<unsigned long>(unit);
-    if (cp < 0x80) {
-      out.push_back(static_cast<char>(cp));
-    } else if (cp < 0x800) {
-      out.push_back(static_cast<char>(0xC0 | (cp >> 6)));
-      out.push_back(static_cast<char>(0x80 | (cp & 0x3F)));
-    } else if (cp < 0x10000) {
-      out.push_back(static_cast<char>(0xE0 | (cp >> 12)));
-      out.push_back(static_cast<char>(0x80 | ((cp >> 6) & 0x3F)));
-      out.push_back(static_cast<char>(0x80 | (cp & 0x3F)));
-    } else {
-      out.push_back(static_cast<char>(0xF0 | (cp >> 18)));
-      out.push_back(static_cast<char>(0x80 | ((cp >> 12) & 0x3F)));
-      out.push_back(static_cast<char>(0x80 | ((cp >> 6) & 0x3F)));
-      out.push_back(static_cast<char>(0x80 | (cp & 0x3F)));
-    }
-  }
-  return out;
-}
+std::string narrow(const std::wstring& text) { return wideToUtf8(text); }
 
 std::string tmText(const std::tm& record) {
   std::tm copy = record;
