@@ -9,9 +9,11 @@
  *   - with C++ linkage in namespace nlpdate, on nlpdate::Solar and
  *     nlpdate::Lunar, for the parser.
  *
- * Nothing is range-checked: a year outside the tables reads outside them,
- * and an invalid month or day is computed through. Gregorian dates from
- * 1888-02-12 (lunar 1888-01-01) to 2111-12-31 convert both ways.
+ * Gregorian dates from 1888-02-12 (lunar 1888-01-01) to 2111-12-31 convert
+ * both ways. An invalid month or day is computed through, unchecked; a year
+ * outside the tables (before 1887 or after 2111) gives an all-zero record
+ * instead of reading past them, and GetBitInt reads bits outside a 31-bit
+ * word as zero.
  *
  *   Solar day = {10, 2, 2024};           // day, month, year
  *   Lunar lunar = SolarToLunar(day);     // {false, 1, 1, 2024}

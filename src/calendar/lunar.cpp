@@ -1,5 +1,6 @@
 // Gregorian <-> Chinese lunisolar conversion over the two bit-packed tables.
-// No range checks: callers keep to the years the tables cover.
+// Invalid months and days are computed through; only a year outside the
+// tables is refused (all-zero record), since reading past them is no answer.
 #include "calendar/lunar.h"
 
 namespace nlpdate {
@@ -16,9 +17,15 @@ Solar wordDate(int word) {
 }
 
 int packDate(const Solar& solar) { return solar.solarYear << 9 | solar.solarMonth << 5 | solar.solarDay; }
+
+bool inTables(int index) { return index >= 0 && index < NLPDATE_LUNAR_TABLE_SIZE; }
 }  // namespace
 
-int GetBitInt(int data, int length, int shift) { return (data & (((1 << length) - 1) << shift)) >> shift; }
+int GetBitInt(int data, int length, int shift) {
+  // Bits outside the word (a month slot past the thirteenth) read as zero.
+  if (length <= 0 || shift < 0 || length + shift > 31) return 0;
+  return (data & (((1 << length) - 1) << shift)) >> shift;
+}
 
 std::int64_t SolarToInt(int y, int m, int d) {
   // Years counted from March, so the leap day falls at the end of a year.
@@ -44,6 +51,7 @@ Solar SolarFromInt(std::int64_t g) {
 
 Solar LunarToSolar(Lunar lunar) {
   const int index = lunar.lunarYear - kBaseYear;
+  if (!inTables(index)) return Solar{0, 0, 0};
   const int days = lunar_month_days[index];
   const int leap = GetBitInt(days, 4, 13);
   int months;
@@ -63,7 +71,9 @@ Solar LunarToSolar(Lunar lunar) {
 
 Lunar SolarToLunar(Solar solar) {
   int index = solar.solarYear - kBaseYear;
+  if (!inTables(index)) return Lunar{false, 0, 0, 0};
   if (solar_1_1[index] > packDate(solar)) index -= 1;  // before that lunar new year
+  if (!inTables(index)) return Lunar{false, 0, 0, 0};
   const Solar newYear = wordDate(solar_1_1[index]);
   std::int64_t offset = SolarToInt(solar.solarYear, solar.solarMonth, solar.solarDay) -
                         SolarToInt(newYear.solarYear, newYear.solarMonth, newYear.solarDay) + 1;

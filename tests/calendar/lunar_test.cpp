@@ -143,6 +143,30 @@ TEST(LunarConversion, InvalidDayIsComputedThrough) {
   EXPECT_TRUE(sameSolar(LunarToSolar(Lunar{true, 1, 5, 2024}), solar(2024, 2, 10)));
 }
 
+TEST(LunarConversion, YearsOutsideTheTablesGiveAnAllZeroRecord) {
+  EXPECT_TRUE(sameLunar(SolarToLunar(solar(2112, 6, 1)), Lunar{false, 0, 0, 0}));
+  EXPECT_TRUE(sameLunar(SolarToLunar(solar(1886, 6, 1)), Lunar{false, 0, 0, 0}));
+  EXPECT_TRUE(sameLunar(SolarToLunar(solar(-5, 1, 1)), Lunar{false, 0, 0, 0}));
+  EXPECT_TRUE(sameSolar(LunarToSolar(Lunar{false, 1, 1, 2112}), Solar{0, 0, 0}));
+  EXPECT_TRUE(sameSolar(LunarToSolar(Lunar{false, 1, 1, 1800}), Solar{0, 0, 0}));
+  const ::Lunar exported = ::SolarToLunar(::Solar{1, 1, 3000});
+  EXPECT_EQ(exported.lunarYear, 0);
+  EXPECT_EQ(exported.lunarMonth, 0);
+  // The last covered day still converts.
+  EXPECT_TRUE(sameSolar(LunarToSolar(SolarToLunar(solar(2111, 12, 31))), solar(2111, 12, 31)));
+}
+
+TEST(LunarConversion, MonthPastTheThirteenthIsComputedThroughAsShortMonths) {
+  // Slots past the word read as no-bit, so 29-day months: month 15 of 2024 is 14 slots on.
+  const Solar month15 = LunarToSolar(Lunar{false, 1, 15, 2024});
+  const Solar month14 = LunarToSolar(Lunar{false, 1, 14, 2024});
+  EXPECT_EQ(SolarToInt(month15.solarYear, month15.solarMonth, month15.solarDay) -
+                SolarToInt(month14.solarYear, month14.solarMonth, month14.solarDay),
+            29);
+  EXPECT_EQ(GetBitInt(0x49B5, 1, -2), 0);
+  EXPECT_EQ(GetBitInt(0x49B5, 4, 30), 0);
+}
+
 TEST(LunarConversion, CExportsBehaveTheSame) {
   const ::Lunar lunar = ::SolarToLunar(::Solar{22, 3, 2023});
   EXPECT_TRUE(lunar.isLeap);
