@@ -6,23 +6,13 @@
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
+#include "vocabulary/number_words.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
 
 namespace nlpdate {
 
 namespace {
-
-std::wstring hourWords(Vocabulary& vocabulary) {
-  const std::wstring* keys[] = {&ONE,       &TWO,       &THREE,    &FOUR,      &FIVE,       &SIX,
-                                &SEVEN,     &EIGHT,     &NINE,     &TEN,       &ELEVEN,     &TWELVE,
-                                &THIRTEEN,  &FOURTEEN,  &FIFTEEN,  &SIXTEEN,   &SEVENTEEN,  &EIGHTEEN,
-                                &NINETEEN,  &TWENTY,    &TWENTY_ONE, &TWENTY_TWO, &TWENTY_THREE, &TWENTY_FOUR};
-  // One alternative per key, bars and all: a missing word stays an empty alternative.
-  std::wstring words;
-  for (const std::wstring* key : keys) words += (key == keys[0] ? L"" : L"|") + vocabulary[*key];
-  return words;
-}
 
 std::wstring amWordsPattern(Vocabulary& vocabulary) {
   return L"(" + addWordBorderInStart(vocabulary[MORNING]) + L"|" + addWordBorderInStart(vocabulary[MIDNIGHT]) +
@@ -42,7 +32,7 @@ std::vector<std::wstring> NLPNativeTitleParser::getEnTimePattern(Vocabulary voca
   const std::wstring ampm = vocabulary[AM_PM];
   const std::wstring clock = vocabulary[CLOCK];
   const std::wstring minute = vocabulary[MINUTE];
-  const std::wstring words = hourWords(vocabulary);
+  const std::wstring words = numberWordAlternation(vocabulary);
   return {
       L"\\s*" + lead + L"\\s*(\\b)(2[0-4]|[0-1]?[0-9])(?::([0-5]?[0-9]))? ?(" + ampm + L")()\\s*",
       lead + L"\\s*((2[0-4]|[0-1]?[0-9])[:|：]([0-5][0-9]))(\\b)()\\s*",

@@ -5,26 +5,13 @@
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
+#include "vocabulary/number_words.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
 
 namespace nlpdate {
 
 namespace {
-
-// The twenty-four number words in one alternation, one to twenty-four.
-std::wstring numberWords(Vocabulary& vocabulary) {
-  const std::wstring* keys[] = {&ONE,      &TWO,       &THREE,     &FOUR,     &FIVE,       &SIX,
-                                &SEVEN,    &EIGHT,     &NINE,      &TEN,      &ELEVEN,     &TWELVE,
-                                &THIRTEEN, &FOURTEEN,  &FIFTEEN,   &SIXTEEN,  &SEVENTEEN,  &EIGHTEEN,
-                                &NINETEEN, &TWENTY,    &TWENTY_ONE, &TWENTY_TWO, &TWENTY_THREE, &TWENTY_FOUR};
-  std::wstring text;
-  for (const std::wstring* key : keys) {
-    if (!text.empty()) text += L"|";
-    text += vocabulary[*key];
-  }
-  return text;
-}
 
 std::wstring allUnits(Vocabulary& v) {
   return v[MINUTE] + L"|" + v[HOUR] + L"|" + v[DAY] + L"|" + v[WEEK] + L"|" + v[MONTH] + L"|" + v[YEAR];
@@ -40,7 +27,7 @@ struct OffsetPattern {
 };
 
 std::vector<OffsetPattern> offsetPatterns(Vocabulary& v) {
-  const std::wstring words = numberWords(v);
+  const std::wstring words = numberWordAlternation(v);
   return {
       {L"(" + v[AFTER] + L")\\s+(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] + L")\\s*(" + v[HOUR] + L")\\s+(\\d{1,3}|" +
            v[A] + L")\\s+(" + v[MINUTE] + L")",
