@@ -1,6 +1,5 @@
 // The last correction of an assembled time: a bare morning hour said later in
 // the day, with no am/pm word and no 24-hour marker, is read as pm.
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
@@ -10,11 +9,11 @@
 namespace nlpdate {
 
 OptTM NLPNativeTitleParser::handleSpecialAm(OptTM cal, std::wstring title, Vocabulary vocabulary) {
-  const std::wregex ampm = compilePattern(getAmPmPattern(vocabulary), PatternCase::Insensitive);
+  const Pattern ampm = compilePattern(getAmPmPattern(vocabulary), PatternCase::Insensitive);
   if (!cal || !*cal) return cal;
   std::tm* record = cal->get();
   const bool has24HourFlag = containStr(title, vocabulary[TWENTY_FOUR_HOUR_FLAG]);
-  const bool hasAmPm = std::regex_search(title, ampm);
+  const bool hasAmPm = ampm.search(title);
   const long seconds = static_cast<long>(std::mktime(record));
   if (seconds <= tomorrow()) {
     if (seconds > today() && !hasAmPm && isBeforeNow(record) && record->tm_hour <= 11) {

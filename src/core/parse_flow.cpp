@@ -3,7 +3,6 @@
 #include "core/parse_flow.h"
 
 #include <exception>
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
@@ -41,7 +40,7 @@ bool holdsChineseCodePoint(const std::wstring& text) {
 bool runsChineseFirst(const std::wstring& title, const std::wstring& language) {
   // Substring tests on purpose: "zh_CN", "zh-Hant", "en_GB" all pass.
   if (!contains(language, L"zh") && !contains(language, L"en")) return false;
-  const std::wstring testCopy = std::regex_replace(title, compilePattern(L"，"), L"");
+  const std::wstring testCopy = compilePattern(L"，").replaceAll(title, L"");
   return holdsChineseCodePoint(testCopy);
 }
 
@@ -82,10 +81,10 @@ std::wstring NLPNativeTitleParser::parse(std::wstring title, std::wstring baseDa
 }
 
 OptTime NLPNativeTitleParser::readBaseDate(const std::wstring& text) {
-  std::wsmatch match;
-  const std::wregex pattern =
+  PatternMatch match;
+  const Pattern pattern =
       compilePattern(L"(\\d{4})-(\\d{1,2})-(\\d{1,2})T(2[0-4]|[0-1]?[0-9]):([0-5]?[0-9]):(\\d{1,2})");
-  if (!std::regex_search(text, match, pattern)) return std::nullopt;  // unreadable reads as none
+  if (!pattern.search(text, match)) return std::nullopt;  // unreadable reads as none
   TMPtr record = getDefaultTM();  // the daylight flag stays that of now
   record->tm_year = translateNum(match[1].str()) - 1900;
   record->tm_mon = translateNum(match[2].str()) - 1;
@@ -161,8 +160,8 @@ void NLPNativeTitleParser::computeIsAllDay() { parserDueDate.isAllDay = isAllDay
 
 void NLPNativeTitleParser::addReminderRequest(const std::wstring& title) {
   for (const wchar_t* request : {L"reminds? me", L"提醒我"}) {
-    std::wsmatch match;
-    if (std::regex_search(title, match, compilePattern(request, PatternCase::Insensitive))) {
+    PatternMatch match;
+    if (compilePattern(request, PatternCase::Insensitive).search(title, match)) {
       parserDueDate.reminder.push_back(ON_TIME);
       parserDueDate.recognizeStrings.push_back(match.str(0));
       return;

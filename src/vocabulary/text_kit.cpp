@@ -2,7 +2,6 @@
 
 #include <cwctype>
 #include <functional>
-#include <regex>
 #include <vector>
 
 #include "vocabulary/pattern_kit.h"
@@ -30,11 +29,7 @@ bool isOneOf(const std::wstring& text, const wchar_t* const (&words)[N]) {
 // Splits a vocabulary value at every '|'. Token-iterator semantics: empty
 // pieces before a bar are kept, an empty piece after the last bar is not.
 std::vector<std::wstring> splitAlternatives(const std::wstring& value) {
-  std::wregex bar = compilePattern(L"\\|");
-  std::vector<std::wstring> pieces;
-  std::wsregex_token_iterator it(value.begin(), value.end(), bar, -1), end;
-  for (; it != end; ++it) pieces.push_back(it->str());
-  return pieces;
+  return compilePattern(L"\\|").split(value);
 }
 
 void eraseAll(std::wstring& text, const std::wstring& piece) {
@@ -69,9 +64,9 @@ bool containStr(const std::wstring& text, const std::wstring& pattern) {
 }
 
 bool isAsciiCode(const std::wstring& text) {
-  std::wsmatch match;
-  std::wregex word = compilePattern(L"[a-zA-Z-_]+");
-  if (!std::regex_search(text, match, word)) return false;
+  PatternMatch match;
+  Pattern word = compilePattern(L"[a-zA-Z-_]+");
+  if (!word.search(text, match)) return false;
   return static_cast<size_t>(match.length(0)) == text.size();
 }
 

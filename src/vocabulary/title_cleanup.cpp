@@ -1,7 +1,6 @@
 // Cuts numbers that look like dates and are none (web addresses, telephone
 // and order numbers, serial keys, room numbers) out of the working title
 // before any recogniser sees it.
-#include <regex>
 #include <string>
 
 #include "core/title_parser.h"
@@ -46,8 +45,8 @@ bool containsAny(const std::wstring& text, const wchar_t* const (&words)[N]) {
   return false;
 }
 
-std::wstring removeAll(const std::wstring& text, const std::wregex& pattern) {
-  return std::regex_replace(text, pattern, std::wstring());
+std::wstring removeAll(const std::wstring& text, const Pattern& pattern) {
+  return pattern.replaceAll(text, std::wstring());
 }
 
 // A number right after "@" or "at" (blanks between allowed) is a time or an
@@ -64,9 +63,9 @@ bool followsAtMark(const std::wstring& title, size_t matchStart) {
 // match is not a year.
 void deleteUnlessYear(NLPNativeTitleParser& parser, std::wstring& title, const wchar_t* patternText,
                       int group) {
-  std::wregex pattern = compilePattern(patternText, PatternCase::Insensitive);
-  std::wsmatch match;
-  if (!std::regex_search(title, match, pattern)) return;
+  Pattern pattern = compilePattern(patternText, PatternCase::Insensitive);
+  PatternMatch match;
+  if (!pattern.search(title, match)) return;
   if (isYear(parser.translateNum(match.str(group)))) return;
   title = removeAll(title, pattern);
 }
@@ -74,9 +73,9 @@ void deleteUnlessYear(NLPNativeTitleParser& parser, std::wstring& title, const w
 // A long digit run goes unless "@"/"at" comes before it or it reads as a
 // year. Only the first match decides, for all matches.
 void deleteLongNumber(NLPNativeTitleParser& parser, std::wstring& title) {
-  std::wregex pattern = compilePattern(kLongNumber, PatternCase::Insensitive);
-  std::wsmatch match;
-  if (!std::regex_search(title, match, pattern)) return;
+  Pattern pattern = compilePattern(kLongNumber, PatternCase::Insensitive);
+  PatternMatch match;
+  if (!pattern.search(title, match)) return;
   if (followsAtMark(title, static_cast<size_t>(match.position(0)))) return;
   if (isYear(parser.translateNum(match.str(0)))) return;
   title = removeAll(title, pattern);

@@ -1,5 +1,4 @@
 // Advance reminders in the word languages: "remind me 10 minutes early".
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
@@ -9,11 +8,11 @@ namespace nlpdate {
 
 std::wstring NLPNativeTitleParser::matchEnAdvanceTime(std::wstring title, Vocabulary vocabulary) {
   Vocabulary& v = vocabulary;
-  std::wsmatch match;
+  PatternMatch match;
   const std::wstring amount = L"(" + v[REMINDER] + L")\\s+(\\S+ )?(\\d{1,2}|" + v[HALF_A] + L"|" + v[A] +
                               L")\\s+(" + v[MINUTE] + L"|" + v[HOUR] + L"|" + v[DAY] + L"|" + v[WEEK] + L")\\s+(" +
                               v[EARLY] + L")";
-  if (std::regex_search(title, match, compilePattern(amount, PatternCase::Insensitive))) {
+  if (compilePattern(amount, PatternCase::Insensitive).search(title, match)) {
     std::optional<NLPMorvaneDuration> offset = getDuration(match[3].str(), match[4].str(), vocabulary);
     if (offset) parserDueDate.pendingOffset = offset;
     parserDueDate.recognizeStrings.push_back(match[0].str());
@@ -23,7 +22,7 @@ std::wstring NLPNativeTitleParser::matchEnAdvanceTime(std::wstring title, Vocabu
   // A reminder word, one or two words of any kind, then the early word: the
   // user named no usable amount, so the default of five minutes applies.
   const std::wstring vague = L"(" + v[REMINDER] + L")\\s+(\\S+ ){1,2}(" + v[EARLY] + L")";
-  if (std::regex_search(title, match, compilePattern(vague, PatternCase::Insensitive))) {
+  if (compilePattern(vague, PatternCase::Insensitive).search(title, match)) {
     parserDueDate.pendingOffset = NLPMorvaneDuration(0, 0, 0, 0, 0, 5, 0, false);
     parserDueDate.recognizeStrings.push_back(match[0].str());
     return match[0].str();

@@ -2,7 +2,6 @@
 // the first that matches decides: a lead word with an hour ("at 9",
 // "@ 10:30pm"), four digits with an am word ("930am"), and a list of five
 // forms (digits with am/pm, hh:mm, digits or hour words with o'clock).
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
@@ -36,8 +35,8 @@ OptTM NLPNativeTitleParser::matchEnTime(std::wstring title, std::tm* calendar, V
 
 OptTM NLPNativeTitleParser::matchEnAtTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary,
                                           bool hasDate, bool isFrench) {
-  std::wsmatch match;
-  if (!std::regex_search(title, match, compilePattern(getAtTimePattern(vocabulary), PatternCase::Insensitive))) {
+  PatternMatch match;
+  if (!compilePattern(getAtTimePattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     return std::nullopt;
   }
   parserDueDate.reminder.push_back(ON_TIME);

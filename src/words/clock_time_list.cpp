@@ -2,7 +2,6 @@
 // digits with an am/pm word, hh:mm, and hours in digits or words with the
 // word for o'clock. A bare hour may take its half of the day from a
 // day-part word anywhere in the title.
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
@@ -45,9 +44,9 @@ std::vector<std::wstring> NLPNativeTitleParser::getEnTimePattern(Vocabulary voca
 
 OptTM NLPNativeTitleParser::matchEnCompactTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary,
                                                bool hasDate) {
-  std::wsmatch match;
+  PatternMatch match;
   const std::wstring pattern = L"\\b(\\d{1,2})\\.?(\\d{2})\\s*(" + vocabulary[AM_PM] + L")";
-  if (!std::regex_search(title, match, compilePattern(pattern, PatternCase::Insensitive))) return std::nullopt;
+  if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) return std::nullopt;
   parserDueDate.reminder.push_back(ON_TIME);
   TMPtr record = getDefaultTM();
   copyTM(calendar, record.get());
@@ -79,13 +78,13 @@ bool NLPNativeTitleParser::readListDayPart(std::tm* record, int number, std::wst
   // No am/pm word beside the hour: a day-part word anywhere in the title
   // decides, and with both kinds the pm reading wins.
   bool seen = false;
-  std::wsmatch match;
-  if (std::regex_search(title, match, compilePattern(amWordsPattern(vocabulary), PatternCase::Insensitive))) {
+  PatternMatch match;
+  if (compilePattern(amWordsPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     parserDueDate.recognizeStrings.push_back(match[0].str());
     if (record->tm_hour >= 12) record->tm_hour -= 12;
     seen = true;
   }
-  if (std::regex_search(title, match, compilePattern(pmWordsPattern(vocabulary), PatternCase::Insensitive))) {
+  if (compilePattern(pmWordsPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     parserDueDate.recognizeStrings.push_back(match[0].str());
     if (record->tm_hour <= 11) record->tm_hour += 12;
     seen = true;
@@ -95,10 +94,10 @@ bool NLPNativeTitleParser::readListDayPart(std::tm* record, int number, std::wst
 
 OptTM NLPNativeTitleParser::matchEnListTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary,
                                             bool hasDate, bool isFrench) {
-  std::wsmatch match;
+  PatternMatch match;
   bool found = false;
   for (const std::wstring& pattern : getEnTimePattern(vocabulary)) {
-    if (std::regex_search(title, match, compilePattern(pattern, PatternCase::Insensitive))) {
+    if (compilePattern(pattern, PatternCase::Insensitive).search(title, match)) {
       found = true;
       break;
     }

@@ -1,7 +1,6 @@
 // How the word-language driver moves a time that lies at or before now: a
 // bare time with no date goes to later today as pm or to tomorrow; a named
 // hour goes to tomorrow unless a named day or a repeat rule fixes the day.
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
@@ -23,7 +22,7 @@ void toPmOrTomorrow(NLPNativeTitleParser& parser, std::tm* record) {
 
 void NLPNativeTitleParser::rollBareTime(std::tm* record, const std::wstring& title, Vocabulary vocabulary,
                                         bool isFrench) {
-  if (std::regex_search(title, compilePattern(getAmPmPattern(vocabulary), PatternCase::Insensitive))) {
+  if (compilePattern(getAmPmPattern(vocabulary), PatternCase::Insensitive).search(title)) {
     record->tm_mday += 1;  // the title said am or pm outright
     return;
   }
@@ -56,18 +55,18 @@ bool NLPNativeTitleParser::titleHasClockTime(const std::wstring& title) {
   // must hold a two-digit clock time.
   for (const std::wstring& text : parserDueDate.recognizeStrings) {
     if (text.find(L':') == std::wstring::npos && text.find(L'：') == std::wstring::npos) continue;
-    if (std::regex_search(title, compilePattern(L"\\b[0-2]\\d[:：]\\d{2}", PatternCase::Insensitive))) return true;
+    if (compilePattern(L"\\b[0-2]\\d[:：]\\d{2}", PatternCase::Insensitive).search(title)) return true;
   }
   return false;
 }
 
 int NLPNativeTitleParser::writtenHourOf(const std::wstring& title, Vocabulary vocabulary) {
-  std::wsmatch match;
-  if (std::regex_search(title, match, compilePattern(getAtTimePattern(vocabulary), PatternCase::Insensitive))) {
+  PatternMatch match;
+  if (compilePattern(getAtTimePattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     return translateNum(match[2].str());
   }
   for (const std::wstring& pattern : getEnTimePattern(vocabulary)) {
-    if (std::regex_search(title, match, compilePattern(pattern, PatternCase::Insensitive))) {
+    if (compilePattern(pattern, PatternCase::Insensitive).search(title, match)) {
       return matchEnglishNum(match[3].str(), vocabulary);
     }
   }

@@ -1,5 +1,4 @@
 // Japanese public holidays by name, dated from the host's holiday table.
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/pattern_kit.h"
@@ -23,8 +22,8 @@ const int* findHoliday(const std::map<std::wstring, int>& table, const std::wstr
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchJapanHoliday(std::wstring title, std::wstring language) {
   if (language.find(L"ja") == std::wstring::npos) return std::nullopt;
-  std::wsmatch match;
-  if (!std::regex_search(title, match, compilePattern(kJapanHolidayPattern, PatternCase::Insensitive))) {
+  PatternMatch match;
+  if (!compilePattern(kJapanHolidayPattern, PatternCase::Insensitive).search(title, match)) {
     return std::nullopt;
   }
   TMPtr record = getDefaultTM();

@@ -19,9 +19,9 @@ std::vector<std::pair<const std::wstring*, int>> monthKeysInTestOrder() {
           {&APRIL, 3},     {&MAY, 4},       {&JUNE, 5},    {&JULY, 6},    {&AUGUST, 7},   {&SEPTEMBER, 8}};
 }
 
-bool searchTitle(const std::wstring& title, const std::wstring& pattern, std::wsmatch& match) {
-  std::wregex compiled = compilePattern(pattern, PatternCase::Insensitive);
-  return std::regex_search(title, match, compiled);
+bool searchTitle(const std::wstring& title, const std::wstring& pattern, PatternMatch& match) {
+  Pattern compiled = compilePattern(pattern, PatternCase::Insensitive);
+  return compiled.search(title, match);
 }
 
 }  // namespace
@@ -40,7 +40,7 @@ TMPtr NLPNativeTitleParser::getEnMonthCalendar(std::wstring monthText, Vocabular
 }
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonth(std::wstring title, Vocabulary vocabulary) {
-  std::wsmatch match;
+  PatternMatch match;
   if (searchTitle(title, getEnMonthDayTimePattern(vocabulary), match)) {
     return readMonthWithClock(*this, match, {1, 3, 5, 6}, vocabulary);
   }

@@ -32,9 +32,9 @@ void secondLook(NLPNativeTitleParser& parser, const std::wstring& title, Vocabul
   bool isKo = isVocabularyLanguage(vocabulary, L"ko");
   std::wstring source =
       isKo ? getEnMonthRecognitionStartWithMonth(vocabulary) : getEnMonthRecognitionStartWithDay(vocabulary);
-  std::wregex pattern = compilePattern(source, PatternCase::Insensitive);
-  std::wsmatch look;
-  if (!std::regex_search(title, look, pattern)) return;
+  Pattern pattern = compilePattern(source, PatternCase::Insensitive);
+  PatternMatch look;
+  if (!pattern.search(title, look)) return;
   if (!look[13].str().empty()) {
     rreplace(reading.text, look[12].str(), L"");
     return;
@@ -61,7 +61,7 @@ void readMonthOnly(NLPNativeTitleParser& parser, std::tm* record) {
 }  // namespace
 
 NLPRecognizeDate readMainMonthDate(NLPNativeTitleParser& parser, const std::wstring& title,
-                                   const std::wsmatch& match, Vocabulary& vocabulary) {
+                                   const PatternMatch& match, Vocabulary& vocabulary) {
   MainReading reading{parser.getEnMonthCalendar(match[7].str(), vocabulary), match[0].str(), match[12].str()};
   if (!reading.yearText.empty()) applyYearText(parser, reading.record.get(), reading.yearText);
   std::wstring dayBefore = match[5].str();

@@ -31,7 +31,7 @@ void rollClockForward(NLPNativeTitleParser& parser, std::tm* record) {
 
 }  // namespace
 
-NLPRecognizeDate readMonthWithClock(NLPNativeTitleParser& parser, const std::wsmatch& match,
+NLPRecognizeDate readMonthWithClock(NLPNativeTitleParser& parser, const PatternMatch& match,
                                     const MonthClockGroups& groups, Vocabulary& vocabulary) {
   TMPtr record = parser.getEnMonthCalendar(match[groups.month].str(), vocabulary);
   record->tm_mday = parser.translateNum(match[groups.day].str());
@@ -44,7 +44,7 @@ NLPRecognizeDate readMonthWithClock(NLPNativeTitleParser& parser, const std::wsm
 }
 
 // "5th" that has passed this month means the 5th of next month.
-NLPRecognizeDate readOrdinalDay(NLPNativeTitleParser& parser, const std::wsmatch& match) {
+NLPRecognizeDate readOrdinalDay(NLPNativeTitleParser& parser, const PatternMatch& match) {
   TMPtr record = parser.getDefaultTM();
   std::wstring day = match[4].str();
   if (!day.empty()) record->tm_mday = parser.translateNum(day);
@@ -54,7 +54,7 @@ NLPRecognizeDate readOrdinalDay(NLPNativeTitleParser& parser, const std::wsmatch
 }
 
 // No roll forward here: the date stands as written.
-NLPRecognizeDate readDayFirstMonth(NLPNativeTitleParser& parser, const std::wsmatch& match, Vocabulary& vocabulary) {
+NLPRecognizeDate readDayFirstMonth(NLPNativeTitleParser& parser, const PatternMatch& match, Vocabulary& vocabulary) {
   TMPtr record = parser.getEnMonthCalendar(match[2].str(), vocabulary);
   if (!match[1].str().empty()) record->tm_mday = parser.translateNum(match[1].str());
   if (!match[3].str().empty()) record->tm_year = parser.translateNum(match[3].str()) - 1900;

@@ -2,10 +2,10 @@
 // into the result of the recogniser.
 #pragma once
 
-#include <regex>
 #include <string>
 
 #include "core/title_parser.h"
+#include "vocabulary/pattern_kit.h"
 
 namespace nlpdate {
 
@@ -17,11 +17,11 @@ struct MonthClockGroups {
   int minute;
 };
 
-NLPRecognizeDate readMonthWithClock(NLPNativeTitleParser& parser, const std::wsmatch& match,
+NLPRecognizeDate readMonthWithClock(NLPNativeTitleParser& parser, const PatternMatch& match,
                                     const MonthClockGroups& groups, Vocabulary& vocabulary);
 NLPRecognizeDate readMainMonthDate(NLPNativeTitleParser& parser, const std::wstring& title,
-                                   const std::wsmatch& match, Vocabulary& vocabulary);
-NLPRecognizeDate readOrdinalDay(NLPNativeTitleParser& parser, const std::wsmatch& match);
-NLPRecognizeDate readDayFirstMonth(NLPNativeTitleParser& parser, const std::wsmatch& match, Vocabulary& vocabulary);
+                                   const PatternMatch& match, Vocabulary& vocabulary);
+NLPRecognizeDate readOrdinalDay(NLPNativeTitleParser& parser, const PatternMatch& match);
+NLPRecognizeDate readDayFirstMonth(NLPNativeTitleParser& parser, const PatternMatch& match, Vocabulary& vocabulary);
 
 }  // namespace nlpdate

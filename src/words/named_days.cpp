@@ -2,7 +2,6 @@
 // after tomorrow and tonight, each relative to the current default day.
 #include "words/named_days.h"
 
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
@@ -23,9 +22,8 @@ std::wstring getSpecialDayRecognition(Vocabulary vocabulary) {
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnSpecialDate(std::wstring title,
                                                                          Vocabulary vocabulary) {
-  std::wsmatch match;
-  if (!std::regex_search(title, match,
-                         compilePattern(getSpecialDayRecognition(vocabulary), PatternCase::Insensitive))) {
+  PatternMatch match;
+  if (!compilePattern(getSpecialDayRecognition(vocabulary), PatternCase::Insensitive).search(title, match)) {
     return std::nullopt;
   }
   TMPtr record = getDefaultTM();

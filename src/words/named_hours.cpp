@@ -1,7 +1,6 @@
 // Named hours in a word-language title. Fixed hours (noon, supper, brunch,
 // midnight, tonight) are taken as they are; the four day parts start at the
 // user's hour and step forward by whole hours while they lie in the past.
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
@@ -57,9 +56,9 @@ std::map<std::wstring, std::pair<int, int>> NLPNativeTitleParser::getEnSpecialHo
 }
 
 OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary) {
-  std::wsmatch match;
+  PatternMatch match;
   for (const auto& [pattern, time] : getEnSpecialHourMap(vocabulary)) {
-    if (!std::regex_search(title, match, compilePattern(pattern, PatternCase::Insensitive))) continue;
+    if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;
     TMPtr record = getDefaultTM();
     copyTM(calendar, record.get());
     setTMToDefaultTime(record.get());
@@ -81,9 +80,9 @@ OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring& title, std::tm* c
       {at + addWordBorderInStartAndEnd(vocabulary[EVENING]), eveningHour, eveningMinute, 19},
       {at + addWordBorderInStartAndEnd(vocabulary[NIGHT]), nightHour, nightMinute, 24},
   };
-  std::wsmatch match;
+  PatternMatch match;
   for (const DayPart& part : parts) {
-    if (!std::regex_search(title, match, compilePattern(part.pattern, PatternCase::Insensitive))) continue;
+    if (!compilePattern(part.pattern, PatternCase::Insensitive).search(title, match)) continue;
     TMPtr record = getDefaultTM();
     copyTM(calendar, record.get());
     setTMToDefaultTime(record.get());

@@ -1,6 +1,5 @@
 // Dates written in digits with dividers (31/12/2024, 2024-12-31, 12.31.24,
 // 3/4) and the phrases for next month, next year and the end of the month.
-#include <regex>
 #include <vector>
 
 #include "core/title_parser.h"
@@ -77,7 +76,7 @@ void applyYear(NLPNativeTitleParser& parser, std::tm* record, std::wstring yearT
 
 // Fields go in as read: a month of 13 or a day of 31 in a short month is
 // carried over by the later normalising.
-TMPtr readFields(NLPNativeTitleParser& parser, const std::wsmatch& match, const DateFields& fields,
+TMPtr readFields(NLPNativeTitleParser& parser, const PatternMatch& match, const DateFields& fields,
                  long todaySeconds) {
   TMPtr record = parser.getDefaultTM();
   parser.setTMToDefaultTime(record.get());
@@ -91,7 +90,7 @@ TMPtr readFields(NLPNativeTitleParser& parser, const std::wsmatch& match, const 
   return record;
 }
 
-TMPtr readRelative(NLPNativeTitleParser& parser, const std::wsmatch& match, Vocabulary& vocabulary) {
+TMPtr readRelative(NLPNativeTitleParser& parser, const PatternMatch& match, Vocabulary& vocabulary) {
   TMPtr record = parser.getDefaultTM();
   parser.setTMToDefaultTime(record.get());
   std::wstring unit = toLowerCase(match[2].str());
@@ -116,9 +115,9 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDate(std::wstring t
   long todaySeconds = today();
   PatternPieces pieces = numericPieces(vocabulary);
   for (const NumericStep& step : numericSteps(isUsOrUkDateFormat)) {
-    std::wregex pattern = compilePattern(fillPieces(step.pattern, pieces), PatternCase::Insensitive);
-    std::wsmatch match;
-    if (!std::regex_search(title, match, pattern)) continue;
+    Pattern pattern = compilePattern(fillPieces(step.pattern, pieces), PatternCase::Insensitive);
+    PatternMatch match;
+    if (!pattern.search(title, match)) continue;
     TMPtr record = step.relative ? readRelative(*this, match, vocabulary)
                                  : readFields(*this, match, step.fields, todaySeconds);
     return NLPRecognizeDate(match[0].str(), static_cast<long>(match.position(0)), record);

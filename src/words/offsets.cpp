@@ -1,6 +1,5 @@
 // Offsets from now in the word languages: "in 2 hours", "3 days later",
 // "in 1 hour 30 minutes".
-#include <regex>
 #include <vector>
 
 #include "core/title_parser.h"
@@ -47,8 +46,8 @@ std::vector<OffsetPattern> offsetPatterns(Vocabulary& v) {
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnAfterTime(std::wstring title, Vocabulary vocabulary) {
   for (const OffsetPattern& pattern : offsetPatterns(vocabulary)) {
-    std::wsmatch match;
-    if (!std::regex_search(title, match, compilePattern(pattern.text, PatternCase::Insensitive))) continue;
+    PatternMatch match;
+    if (!compilePattern(pattern.text, PatternCase::Insensitive).search(title, match)) continue;
 
     std::optional<NLPMorvaneDuration> offset;
     if (pattern.secondGroup == 0) {

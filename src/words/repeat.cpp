@@ -1,6 +1,5 @@
 // The word-language repeat stage: which kinds of repetition are tried, in
 // which order, and the interval behind the word for every.
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/pattern_kit.h"
@@ -20,8 +19,8 @@ bool NLPNativeTitleParser::repeatHelper(const std::wstring title, Vocabulary voc
 }
 
 int NLPNativeTitleParser::findInterval(std::wstring title, Vocabulary vocabulary) {
-  std::wsmatch match;
-  if (!std::regex_search(title, match, compilePattern(repeatIntervalPattern(vocabulary), PatternCase::Insensitive))) {
+  PatternMatch match;
+  if (!compilePattern(repeatIntervalPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     return 1;
   }
   const std::wstring word = match[2].str();

@@ -1,7 +1,6 @@
 // Repeats led by the word for every: "every day", "every 2 weeks", "every
 // monday", "every morning", "every year on march 15", and the weekday,
 // work-day and weekend words anywhere in the title.
-#include <regex>
 
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
@@ -69,7 +68,7 @@ std::list<NLPWeekdayNum> namedWeekday(const std::wstring& word, Vocabulary& v) {
 
 // Only the weekday-name row has a third group and a filled second one; the
 // other weekly rows keep what the day-kind words set.
-void applyWeekly(const std::wsmatch& match, StringRRule& rule, std::tm* record, int today, Vocabulary& v) {
+void applyWeekly(const PatternMatch& match, StringRRule& rule, std::tm* record, int today, Vocabulary& v) {
   if (match.size() - 1 < 3 || match[2].str().empty()) return;
   rule.setWkSt(Monday);
   const std::wstring word = match[2].str();
@@ -78,7 +77,7 @@ void applyWeekly(const std::wsmatch& match, StringRRule& rule, std::tm* record, 
   while (getWeekDay(record) != target) record->tm_mday += 1;
 }
 
-void applyYearly(NLPNativeTitleParser& parser, const std::wsmatch& match, TMPtr& record, Vocabulary& v) {
+void applyYearly(NLPNativeTitleParser& parser, const PatternMatch& match, TMPtr& record, Vocabulary& v) {
   if (match[3].str().empty()) return;
   record = parser.getEnMonthCalendar(match[4].str(), v);
   record->tm_mday = parser.translateNum(match[6].str());
@@ -91,8 +90,8 @@ void applyYearly(NLPNativeTitleParser& parser, const std::wsmatch& match, TMPtr&
 
 bool matchRepeatEvery(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
   for (const auto& [pattern, frequency] : repeatEveryPatterns(vocabulary)) {
-    std::wsmatch match;
-    if (!std::regex_search(title, match, compilePattern(pattern, PatternCase::Insensitive))) continue;
+    PatternMatch match;
+    if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;
 
     TMPtr record = parser.getDefaultTM();
     const int today = record->tm_wday;

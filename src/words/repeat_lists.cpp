@@ -1,7 +1,6 @@
 // Repeats that list their days ("every monday and friday", "every 1 and 15")
 // and the last day of each month ("every last day").
 #include <list>
-#include <regex>
 #include <set>
 
 #include "vocabulary/pattern_kit.h"
@@ -23,7 +22,7 @@ std::list<NLPWeekdayNum> weekdaysInWeekOrder(const std::set<WeekDay>& named) {
   return days;
 }
 
-void readWeekdayList(const std::wsmatch& match, StringRRule& rule, std::tm* record, Vocabulary& vocabulary) {
+void readWeekdayList(const PatternMatch& match, StringRRule& rule, std::tm* record, Vocabulary& vocabulary) {
   rule.setFreq(NLPFrequency::WEEKLY);
   rule.setWkSt(Monday);
   const int today = record->tm_wday;
@@ -38,7 +37,7 @@ void readWeekdayList(const std::wsmatch& match, StringRRule& rule, std::tm* reco
   }
 }
 
-void readMonthDayList(NLPNativeTitleParser& parser, const std::wsmatch& match, StringRRule& rule,
+void readMonthDayList(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule,
                       std::tm* record) {
   rule.setFreq(NLPFrequency::MONTHLY);
   std::list<int> days = {parser.translateNum(match[12].str())};
@@ -54,8 +53,8 @@ void readMonthDayList(NLPNativeTitleParser& parser, const std::wsmatch& match, S
 }  // namespace
 
 bool matchRepeatList(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
-  std::wsmatch match;
-  if (!std::regex_search(title, match, compilePattern(repeatListPattern(vocabulary), PatternCase::Insensitive))) {
+  PatternMatch match;
+  if (!compilePattern(repeatListPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     return false;
   }
   StringRRule rule;
@@ -73,8 +72,8 @@ bool matchRepeatList(NLPNativeTitleParser& parser, const std::wstring& title, Vo
 }
 
 bool matchRepeatLastDay(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
-  std::wsmatch match;
-  if (!std::regex_search(title, match, compilePattern(repeatLastDayPattern(vocabulary), PatternCase::Insensitive))) {
+  PatternMatch match;
+  if (!compilePattern(repeatLastDayPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     return false;
   }
   StringRRule rule;

@@ -2,7 +2,6 @@
 // "every march 15") names a day and maybe a month; pattern M1 ("15th day of
 // every month", "every month on the last friday") names the day around the
 // word for month.
-#include <regex>
 
 #include "vocabulary/keys.h"
 #include "vocabulary/text_kit.h"
@@ -33,7 +32,7 @@ void rollMonthDay(NLPNativeTitleParser& parser, const std::wstring& month, std::
   for (int i = 0; i < 13 && parser.isBeforeToday(record); ++i) record->tm_mon += 1;
 }
 
-void applyM2(NLPNativeTitleParser& parser, const std::wsmatch& match, StringRRule& rule, std::tm* record,
+void applyM2(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule, std::tm* record,
              Vocabulary& v) {
   rule.setInterval(1);
   const std::wstring month = match[5].str().empty() ? match[11].str() : match[5].str();
@@ -67,7 +66,7 @@ void nthWeekdayOfMonth(std::tm* record, WeekDay target, int ordinal) {
   if (ordinal >= 2) record->tm_mday += 7 * ordinal - 7;
 }
 
-void applyM1Weekday(NLPNativeTitleParser& parser, const std::wsmatch& match, StringRRule& rule, std::tm* record,
+void applyM1Weekday(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule, std::tm* record,
                     int today, Vocabulary& v) {
   const WeekDay target = translateDayOfWeek(match[17].str(), today, v);
   int ordinal;
@@ -88,7 +87,7 @@ void applyM1Weekday(NLPNativeTitleParser& parser, const std::wsmatch& match, Str
   rule.setByDay({NLPWeekdayNum(ordinal, target)});
 }
 
-void applyM1(NLPNativeTitleParser& parser, const std::wsmatch& match, StringRRule& rule, std::tm* record,
+void applyM1(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule, std::tm* record,
              int today, Vocabulary& v) {
   if (!match[3].str().empty()) {
     rule.setByMonthDay({-1});
@@ -117,7 +116,7 @@ void applyM1(NLPNativeTitleParser& parser, const std::wsmatch& match, StringRRul
 
 }  // namespace
 
-void applyMonthlyRepeat(NLPNativeTitleParser& parser, const std::wsmatch& match, StringRRule& rule,
+void applyMonthlyRepeat(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule,
                         std::tm* record, Vocabulary& vocabulary) {
   const int today = parser.getDefaultTM()->tm_wday;
   // Group 1 holds the word for every only in M2; in M1 it is a day number.

@@ -1,6 +1,5 @@
 // Repeats told by one word ("daily", "weekly", ...) and the official
 // working-day rule, which skips holidays and weekends.
-#include <regex>
 
 #include "vocabulary/pattern_kit.h"
 #include "words/repeat_patterns.h"
@@ -10,8 +9,8 @@ namespace nlpdate {
 
 bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
   for (const auto& [pattern, frequency] : repeatOneWordPatterns(vocabulary)) {
-    std::wsmatch match;
-    if (!std::regex_search(title, match, compilePattern(pattern, PatternCase::Insensitive))) continue;
+    PatternMatch match;
+    if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;
     StringRRule rule;
     rule.setFreq(frequency);
     rule.setInterval(1);
@@ -24,8 +23,8 @@ bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title,
 }
 
 bool matchOfficialWorkDays(NLPNativeTitleParser& parser, const std::wstring& title) {
-  std::wsmatch match;
-  if (!std::regex_search(title, match, compilePattern(officialWorkDayPattern(), PatternCase::Sensitive))) {
+  PatternMatch match;
+  if (!compilePattern(officialWorkDayPattern(), PatternCase::Sensitive).search(title, match)) {
     return false;
   }
   // The first official working day from today on; the rule text is fixed and

@@ -4,10 +4,10 @@
 #pragma once
 
 #include <ctime>
-#include <regex>
 #include <string>
 
 #include "core/title_parser.h"
+#include "vocabulary/pattern_kit.h"
 
 namespace nlpdate {
 
@@ -18,7 +18,7 @@ bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title,
 bool matchOfficialWorkDays(NLPNativeTitleParser& parser, const std::wstring& title);
 
 // The monthly branch of the every patterns (month patterns M1 and M2).
-void applyMonthlyRepeat(NLPNativeTitleParser& parser, const std::wsmatch& match, StringRRule& rule,
+void applyMonthlyRepeat(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule,
                         std::tm* record, Vocabulary& vocabulary);
 
 // Stores the rule, its text, the recognised text and the start date.

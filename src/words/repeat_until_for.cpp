@@ -1,5 +1,4 @@
 // "every day for 2 weeks": a unit word and a length in weeks or months.
-#include <regex>
 
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
@@ -10,9 +9,9 @@
 namespace nlpdate {
 
 bool repeatForForm(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
-  std::wregex pattern = compilePattern(repeatForPattern(vocabulary), PatternCase::Insensitive);
-  std::wsmatch match;
-  if (!std::regex_search(title, match, pattern)) return false;
+  Pattern pattern = compilePattern(repeatForPattern(vocabulary), PatternCase::Insensitive);
+  PatternMatch match;
+  if (!pattern.search(title, match)) return false;
   StringRRule rule;
   rule.setInterval(1);
   rule.setFreq(NLPFrequency::DAILY);

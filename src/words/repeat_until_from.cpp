@@ -1,5 +1,4 @@
 // "every day from 3 march to 20 march": a unit word, a first date and a last date.
-#include <regex>
 
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
@@ -13,7 +12,7 @@ namespace nlpdate {
 namespace {
 
 // A first date with no day is a today or tomorrow word, a weekday, or the 1st.
-void readFirstDay(NLPNativeTitleParser& parser, const std::wsmatch& match, std::tm* record, Vocabulary& vocabulary) {
+void readFirstDay(NLPNativeTitleParser& parser, const PatternMatch& match, std::tm* record, Vocabulary& vocabulary) {
   if (!match[6].str().empty()) {
     record->tm_mday = parser.translateNum(match[6].str());
     return;
@@ -36,7 +35,7 @@ void readFirstDay(NLPNativeTitleParser& parser, const std::wsmatch& match, std::
 }
 
 // A named last day walks the record that gave the start, which is stored already.
-OptTM readFromEnd(NLPNativeTitleParser& parser, const std::wsmatch& match, const TMPtr& record,
+OptTM readFromEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const TMPtr& record,
                   Vocabulary& vocabulary) {
   if (match[19].str().empty() && match[17].str().empty() && match[21].str().empty()) {
     if (!walkToNamedDay(parser, record.get(), match[24].str(), match[25].str(), vocabulary)) return std::nullopt;
@@ -50,9 +49,9 @@ OptTM readFromEnd(NLPNativeTitleParser& parser, const std::wsmatch& match, const
 }  // namespace
 
 bool repeatFromForm(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
-  std::wregex pattern = compilePattern(repeatFromPattern(vocabulary), PatternCase::Insensitive);
-  std::wsmatch match;
-  if (!std::regex_search(title, match, pattern)) return false;
+  Pattern pattern = compilePattern(repeatFromPattern(vocabulary), PatternCase::Insensitive);
+  PatternMatch match;
+  if (!pattern.search(title, match)) return false;
   TMPtr record = parser.getEnMonthCalendar(match[8].str(), vocabulary);
   readFirstDay(parser, match, record.get(), vocabulary);
   if (parser.isBeforeToday(record.get())) {

@@ -1,6 +1,5 @@
 // "every monday start 3 march end on 20 march", "every 15th end in 3 months":
 // a weekday or day of the month, then an optional start and an optional end.
-#include <regex>
 #include <utility>
 #include <vector>
 
@@ -15,12 +14,12 @@ namespace nlpdate {
 
 namespace {
 
-bool allEmpty(const std::wsmatch& match, int first, int second, int third) {
+bool allEmpty(const PatternMatch& match, int first, int second, int third) {
   return match[first].str().empty() && match[second].str().empty() && match[third].str().empty();
 }
 
 // "every 15th": monthly on that day, from its next coming.
-void readDayOfMonth(NLPNativeTitleParser& parser, const std::wsmatch& match, std::tm* record, StringRRule& rule) {
+void readDayOfMonth(NLPNativeTitleParser& parser, const PatternMatch& match, std::tm* record, StringRRule& rule) {
   if (match[6].str().empty()) return;
   int day = parser.translateNum(match[6].str());
   rule.setFreq(NLPFrequency::MONTHLY);
@@ -30,7 +29,7 @@ void readDayOfMonth(NLPNativeTitleParser& parser, const std::wsmatch& match, std
 }
 
 // The start part: a named day walks the record, a written date replaces it.
-void readStart(NLPNativeTitleParser& parser, const std::wsmatch& match, TMPtr& record, Vocabulary& vocabulary) {
+void readStart(NLPNativeTitleParser& parser, const PatternMatch& match, TMPtr& record, Vocabulary& vocabulary) {
   if (allEmpty(match, 13, 11, 15)) {
     walkToNamedDay(parser, record.get(), toLowerCase(match[18].str()), toLowerCase(match[19].str()), vocabulary);
     return;
@@ -52,7 +51,7 @@ std::vector<std::pair<const std::wstring*, int>> ordinalsInTestOrder() {
 }
 
 // "every second monday" is monthly on that weekday; "every monday" weekly.
-void readWeekday(NLPNativeTitleParser& parser, const std::wsmatch& match, std::tm* record, StringRRule& rule,
+void readWeekday(NLPNativeTitleParser& parser, const PatternMatch& match, std::tm* record, StringRRule& rule,
                  Vocabulary& vocabulary) {
   if (match[4].str().empty()) return;
   int ordinal = 0;
@@ -72,7 +71,7 @@ void readWeekday(NLPNativeTitleParser& parser, const std::wsmatch& match, std::t
 }
 
 // "end in 3 months": the day before the same date so many units on.
-void readEndLength(NLPNativeTitleParser& parser, const std::wsmatch& match, const TMPtr& record, StringRRule& rule,
+void readEndLength(NLPNativeTitleParser& parser, const PatternMatch& match, const TMPtr& record, StringRRule& rule,
                    Vocabulary& vocabulary) {
   int length = parser.translateNum(match[36].str());
   if (length == 0 || match[36].str().empty()) length = 1;
@@ -93,7 +92,7 @@ void readEndLength(NLPNativeTitleParser& parser, const std::wsmatch& match, cons
 
 // A named end walks the start record and leaves the end on the default day;
 // that is how this form has always read it.
-void readNamedEnd(NLPNativeTitleParser& parser, const std::wsmatch& match, const TMPtr& record, StringRRule& rule,
+void readNamedEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const TMPtr& record, StringRRule& rule,
                   Vocabulary& vocabulary) {
   TMPtr end = parser.getDefaultTM();
   walkToNamedDay(parser, record.get(), toLowerCase(match[32].str()), toLowerCase(match[33].str()), vocabulary);
@@ -101,7 +100,7 @@ void readNamedEnd(NLPNativeTitleParser& parser, const std::wsmatch& match, const
   rule.setUntilDate(end);
 }
 
-void readEnd(NLPNativeTitleParser& parser, const std::wsmatch& match, const TMPtr& record, StringRRule& rule,
+void readEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const TMPtr& record, StringRRule& rule,
              Vocabulary& vocabulary) {
   if (match[20].str().empty()) return;
   if (!match[34].str().empty()) {
@@ -117,9 +116,9 @@ void readEnd(NLPNativeTitleParser& parser, const std::wsmatch& match, const TMPt
 }  // namespace
 
 bool repeatStartEndForm(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
-  std::wregex pattern = compilePattern(repeatStartEndPattern(vocabulary), PatternCase::Insensitive);
-  std::wsmatch match;
-  if (!std::regex_search(title, match, pattern)) return false;
+  Pattern pattern = compilePattern(repeatStartEndPattern(vocabulary), PatternCase::Insensitive);
+  PatternMatch match;
+  if (!pattern.search(title, match)) return false;
   StringRRule rule;
   rule.setInterval(1);
   rule.setFreq(NLPFrequency::SECONDLY);  // stays so when neither a weekday nor a day of the month is named

@@ -3,7 +3,6 @@
 // first weekday bounds it, and then moved by the word in front of it.
 #include "words/weekdays.h"
 
-#include <regex>
 
 #include "core/title_parser.h"
 #include "vocabulary/keys.h"
@@ -86,8 +85,8 @@ void NLPNativeTitleParser::applyWeekDayLead(std::tm* record, std::wstring lead, 
 }
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnWeekDay(std::wstring title, Vocabulary vocabulary) {
-  std::wsmatch match;
-  if (!std::regex_search(title, match, compilePattern(getDayOfWeekRecog(vocabulary), PatternCase::Insensitive))) {
+  PatternMatch match;
+  if (!compilePattern(getDayOfWeekRecog(vocabulary), PatternCase::Insensitive).search(title, match)) {
     return std::nullopt;
   }
   TMPtr record = getDefaultTM();

@@ -45,10 +45,10 @@ fuzz::FuzzCase caseOf(const std::string& language, const std::string& title, boo
 bool hasExactKeyShape(const std::string& json) {
   static const std::wstring date = L"(-?\\d+-\\d{2}-\\d{2}T\\d{2}:\\d{2}:\\d{2})?";
   static const std::wstring quotedList = L"(\"[^\"]*\"(,\"[^\"]*\")*)?";
-  const std::wregex shape = compilePattern(L"^\\{\"repeatFlag\":\"[^\"]*\",\"recognizeStrings\":\\[(\".*\")?\\],"
+  const Pattern shape = compilePattern(L"^\\{\"repeatFlag\":\"[^\"]*\",\"recognizeStrings\":\\[(\".*\")?\\],"
                                            L"\"startDate\":\"" + date + L"\",\"dueDate\":\"" + date +
                                            L"\",\"reminder\":\\[" + quotedList + L"\\],\"isAllDay\":(true|false)\\}$");
-  return std::regex_match(utf8ToWide(json), shape);
+  return shape.matchWhole(utf8ToWide(json));
 }
 
 const std::vector<std::string>& sweepPieces() {

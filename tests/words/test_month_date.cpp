@@ -2,7 +2,6 @@
 // a passed date and the second look at two numbers around the month.
 #include <gtest/gtest.h>
 
-#include <regex>
 
 #include "support/test_support.h"
 #include "vocabulary/keys.h"
@@ -36,11 +35,11 @@ class MonthDate : public ::testing::Test {
 };
 
 bool mainPatternMatches(const std::string& title, const std::string& language) {
-  std::wregex pattern =
+  Pattern pattern =
       compilePattern(getEnMonthRecognition(NLPTranslation::getTransKeyToValue(wide(language))), PatternCase::Insensitive);
-  std::wsmatch match;
+  PatternMatch match;
   std::wstring text = wide(title);
-  return std::regex_search(text, match, pattern) && !match[7].str().empty();
+  return pattern.search(text, match) && !match[7].str().empty();
 }
 
 }  // namespace
@@ -320,16 +319,16 @@ TEST_F(MonthDate, NothingToRead) {
 
 TEST_F(MonthDate, SecondLookPatternGroups) {
   Vocabulary english = NLPTranslation::getTransKeyToValue(L"en");
-  std::wregex pattern = compilePattern(getEnMonthRecognitionStartWithDay(english), PatternCase::Insensitive);
-  std::wsmatch match;
+  Pattern pattern = compilePattern(getEnMonthRecognitionStartWithDay(english), PatternCase::Insensitive);
+  PatternMatch match;
   std::wstring title = L"12 march 8p";
-  ASSERT_TRUE(std::regex_search(title, match, pattern));
+  ASSERT_TRUE(pattern.search(title, match));
   EXPECT_EQ(match[5].str(), L"12");
   EXPECT_EQ(match[12].str(), L"8");
   EXPECT_EQ(match[13].str(), L"p");
-  std::wregex monthFirst = compilePattern(getEnMonthRecognitionStartWithMonth(english), PatternCase::Insensitive);
+  Pattern monthFirst = compilePattern(getEnMonthRecognitionStartWithMonth(english), PatternCase::Insensitive);
   title = L"march 12, 2025";
-  ASSERT_TRUE(std::regex_search(title, match, monthFirst));
+  ASSERT_TRUE(monthFirst.search(title, match));
   EXPECT_EQ(match.size(), 13u);
   EXPECT_EQ(match[7].str(), L"march");
   EXPECT_EQ(match[9].str(), L"12");
@@ -337,11 +336,11 @@ TEST_F(MonthDate, SecondLookPatternGroups) {
 }
 
 TEST_F(MonthDate, MainPatternHasTwelveGroups) {
-  std::wregex pattern =
+  Pattern pattern =
       compilePattern(getEnMonthRecognition(NLPTranslation::getTransKeyToValue(L"en")), PatternCase::Insensitive);
-  std::wsmatch match;
+  PatternMatch match;
   std::wstring title = L"on 12th of december 2025";
-  ASSERT_TRUE(std::regex_search(title, match, pattern));
+  ASSERT_TRUE(pattern.search(title, match));
   EXPECT_EQ(match.size(), 13u);
   EXPECT_EQ(match[5].str(), L"12");
   EXPECT_EQ(match[7].str(), L"december");
