@@ -96,6 +96,23 @@ class NLPNativeTitleParser {
   OptTM handleSpecialAm(OptTM cal, std::wstring title, Vocabulary vocabulary);
   void setYear(std::wstring year, TMPtr cal);
   // [chinese: further declarations go here]
+  // Stages of chineseDateRecognition that the offset, lunar, holiday and repeat recognisers fill in.
+  NLPRepeatResult matchRepeat(std::wstring title);
+  std::optional<NLPRecognizeDate> matchAfterTime(const std::wstring& title);
+  std::wstring matchAdvanceTime(std::wstring title);
+  std::vector<std::wstring> getLunarPattern();
+  std::optional<NLPRecognizeDate> matchLunar(std::wstring title);
+  std::wstring getHolidayDateRecognition();
+  std::optional<NLPRecognizeDate> matchHoliday(std::wstring title);
+  // [chinese-stages: further declarations go here]
+  // Chinese ranges: the written-date range and the four range recognisers the dispatcher tries.
+  std::optional<NLPRecognizeDate> chineseDateDurationDateRecognition(std::wstring title);
+  std::optional<NLPRecognizeDate> chineseSpecialDayDurationRecognition(std::wstring title);
+  std::optional<NLPRecognizeDate> chineseWeekDayDurationRecognition(std::wstring title);
+  std::optional<NLPRecognizeDate> chineseHolidayDurationRecognition(std::wstring title);
+  std::optional<NLPRecognizeDate> chineseDateDurationDateTimeRecognition(std::wstring title, OptTime defaultDate,
+                                                                         OptTM leadDate);
+  // [chinese-ranges: further declarations go here]
   void setMonth(std::wstring month, TMPtr cal);
   void setDayOfMonth(std::wstring day, TMPtr cal);
 
