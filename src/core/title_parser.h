@@ -96,6 +96,30 @@ class NLPNativeTitleParser {
   OptTM handleSpecialAm(OptTM cal, std::wstring title, Vocabulary vocabulary);
   void setYear(std::wstring year, TMPtr cal);
   // [chinese: further declarations go here]
+  // Written dates.
+  std::wstring getChineseMonthDayYearPattern();
+  std::vector<std::wstring> getChineseDatePattern();
+  std::optional<NLPRecognizeDate> getMatchDateResult(const std::wstring& pattern, const std::wstring& title,
+                                                     int yearGroup, int monthGroup, int dayGroup,
+                                                     int yearSeparatorGroup, int monthSeparatorGroup);
+  std::optional<NLPRecognizeDate> matchDate(std::wstring title);
+  bool isOverMonthLimit(std::wstring month);
+  // Named days and weekdays.
+  std::map<std::wstring, int> getSpecialDateMaps();
+  std::wstring getSpecialDateRecognition();
+  std::wstring getSpecialDateRecognitionWithNextWeek();
+  std::optional<NLPRecognizeDate> matchTodayAndSoOn(std::wstring title);
+  std::optional<NLPRecognizeDate> matchWeekDay(std::wstring title);
+  // Time of day.
+  std::wstring getAMFlag();
+  std::wstring getPMFlag();
+  std::map<std::wstring, std::pair<int, int>> getSpecialHourMap();
+  std::vector<std::wstring> getMatchTimePattern();
+  std::vector<std::wstring> getMatchTimePatternOutClock();
+  std::vector<std::wstring> getMatchTimePatternWithoutClockWord();
+  std::optional<NLPRecognizeDate> matchTime(std::optional<NLPRecognizeDate>& dateResult, std::wstring title,
+                                            OptTime defaultDate, OptTM repeatDate);
+  std::optional<NLPRecognizeDate> matchSpecialTime(std::wstring title);
   // Stages of chineseDateRecognition that the offset, lunar, holiday and repeat recognisers fill in.
   NLPRepeatResult matchRepeat(std::wstring title);
   std::optional<NLPRecognizeDate> matchAfterTime(const std::wstring& title);
