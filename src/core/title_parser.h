@@ -145,6 +145,8 @@ class NLPNativeTitleParser {
                               std::wstring language);
   std::optional<NLPRecognizeDate> englishDateDurationRecognition(std::wstring title, Vocabulary vocabulary);
   // [words-driver: further declarations go here]
+  // Ranges of dates, named days and weekdays; the Chinese range dispatcher asks it too.
+  std::optional<NLPRecognizeDate> matchEnDateDuration(std::wstring title, Vocabulary vocabulary);
   // Stages of englishDateRecognition.
   bool takeEnRange(const std::wstring& title, OptTime baseDate, Vocabulary vocabulary);
   bool finishEnOffset(const NLPRecognizeDate& offset, OptTM dateCal, const std::wstring& title,

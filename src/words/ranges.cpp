@@ -7,4 +7,8 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::englishDateDurationRecogni
   return std::nullopt;
 }
 
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDateDuration(std::wstring, Vocabulary) {
+  return std::nullopt;
+}
+
 }  // namespace nlpdate
