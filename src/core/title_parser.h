@@ -19,6 +19,8 @@
 
 namespace nlpdate {
 
+struct ChineseStages;
+
 class NLPNativeTitleParser {
  public:
   NLPNativeTitleParser() = default;
@@ -120,6 +122,23 @@ class NLPNativeTitleParser {
   std::optional<NLPRecognizeDate> matchTime(std::optional<NLPRecognizeDate>& dateResult, std::wstring title,
                                             OptTime defaultDate, OptTM repeatDate);
   std::optional<NLPRecognizeDate> matchSpecialTime(std::wstring title);
+  // Steps of matchTime.
+  bool applyChinesePeriod(std::tm* cal, int hour, const std::wstring& working, NLPRecognizeDate& result);
+  void rollPastChineseTime(std::tm* cal, int hour, int minute, bool hasPeriod, const std::wstring& working,
+                           const NLPRecognizeDate& result);
+  std::optional<NLPRecognizeDate> matchLastChanceTime(const std::wstring& title);
+  // Steps of chineseDateRecognition.
+  bool takeChineseRange(const std::wstring& title, OptTime baseDate, Vocabulary vocabulary, OptTM repeatDate);
+  void collectChineseResult(const NLPRecognizeDate& result);
+  bool finishChineseOffset(ChineseStages& stages, std::wstring& title);
+  void letWordDatesLead(ChineseStages& stages, const std::wstring& title, Vocabulary vocabulary);
+  OptTM mergeChineseTime(ChineseStages& stages, const std::wstring& title);
+  OptTM collectChineseStage(ChineseStages& stages, OptTM cal);
+  void rollByRule(std::tm* cal);
+  void rollByTimeWord(std::tm* cal, const ChineseStages& stages);
+  bool ruleHasWeekDay(std::tm* cal);
+  void moveToRuleWeekDay(std::tm* cal);
+  void markLunarYearlyRule();
   // Stages of chineseDateRecognition that the offset, lunar, holiday and repeat recognisers fill in.
   NLPRepeatResult matchRepeat(std::wstring title);
   std::optional<NLPRecognizeDate> matchAfterTime(const std::wstring& title);

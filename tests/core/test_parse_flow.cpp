@@ -142,27 +142,26 @@ TEST(TitleLimitTest, FiveHundredTwelveUnitsStay) {
 
 TEST(TitleLimitTest, NothingPastTheLimitIsSeen) {
   ScopedTZ zone("UTC");
-  // A start date set before the flow makes the reminder request visible; it searches the cut title.
+  // A date at the front makes the reminder request visible; it searches the cut title.
+  const std::wstring date = L"tomorrow ";
   const std::wstring request = L"remind me";
-  const std::wstring fits = std::wstring(512 - request.size(), L'x') + request;
-  const std::wstring over = L"x" + fits;
+  const std::wstring fits = date + std::wstring(512 - date.size() - request.size(), L'x') + request;
+  const std::wstring over = date + L"x" + fits.substr(date.size());
   ASSERT_EQ(fits.size(), 512u);
 
   NLPNativeTitleParser parser = parserAt(kNow);
-  parser.parserDueDate.startDate = at("2024-03-09T09:00:00");
   EXPECT_EQ(narrow(parser.parseTitle(fits, std::nullopt, L"en")),
-            json("\"remind me\"", "2024-03-09T09:00:00", "", "\"TRIGGER:-PT0S\"", true));
+            json("\"tomorrow \",\"remind me\"", "2024-03-09T00:00:00", "", "\"TRIGGER:-PT0S\"", true));
 
   NLPNativeTitleParser cut = parserAt(kNow);
-  cut.parserDueDate.startDate = at("2024-03-09T09:00:00");
-  EXPECT_EQ(narrow(cut.parseTitle(over, std::nullopt, L"en")), json("", "2024-03-09T09:00:00", "", "", true));
+  EXPECT_EQ(narrow(cut.parseTitle(over, std::nullopt, L"en")), json("\"tomorrow \"", "2024-03-09T00:00:00", "", "", true));
 }
 
 TEST(TitleLimitTest, RecognisersSeeOnlyTheCutTitle) {
   ScopedTZ zone("UTC");
   const std::string date = " tomorrow";
   EXPECT_EQ(parseAt(kNow, std::string(512 - date.size(), 'x') + date),
-            json("\"tomorrow\"", "2024-03-09T00:00:00", "", "", true));
+            json("\"tomorrow \"", "2024-03-09T00:00:00", "", "", true));
   // One unit more and the last letter of the date falls past the limit.
   EXPECT_EQ(parseAt(kNow, std::string(513 - date.size(), 'x') + date), kEmptyJson);
 }
@@ -170,7 +169,7 @@ TEST(TitleLimitTest, RecognisersSeeOnlyTheCutTitle) {
 TEST(ParseFlowTest, RemindMeWithADateEndToEnd) {
   ScopedTZ zone("UTC");
   EXPECT_EQ(parseAt(kNow, "remind me to call mom tomorrow"),
-            json("\"tomorrow\",\"remind me\"", "2024-03-09T00:00:00", "", "\"TRIGGER:-PT0S\"", true));
+            json("\"tomorrow \",\"remind me\"", "2024-03-09T00:00:00", "", "\"TRIGGER:-PT0S\"", true));
 }
 
 TEST(ParseFlowTest, OffsetEndToEnd) {
@@ -380,7 +379,7 @@ TEST(ReminderRequestTest, RemindMeWithADate) {
   parser.parserDueDate.recognizeStrings = {L"tomorrow"};
   // isAllDay keeps the value computed before the request.
   EXPECT_EQ(narrow(parser.finishResult(L"remind me to pay rent tomorrow")),
-            json("\"tomorrow\",\"remind me\"", "2024-03-09T00:00:00", "", "\"TRIGGER:-PT0S\"", true));
+            json("\"tomorrow \",\"remind me\"", "2024-03-09T00:00:00", "", "\"TRIGGER:-PT0S\"", true));
 }
 
 TEST(ReminderRequestTest, CaseInsensitiveAndOnlyTheFirstMatch) {
