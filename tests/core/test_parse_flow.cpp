@@ -154,14 +154,15 @@ TEST(TitleLimitTest, NothingPastTheLimitIsSeen) {
             json("\"tomorrow \",\"remind me\"", "2024-03-09T00:00:00", "", "\"TRIGGER:-PT0S\"", true));
 
   NLPNativeTitleParser cut = parserAt(kNow);
-  EXPECT_EQ(narrow(cut.parseTitle(over, std::nullopt, L"en")), json("\"tomorrow \"", "2024-03-09T00:00:00", "", "", true));
+  EXPECT_EQ(narrow(cut.parseTitle(over, std::nullopt, L"en")),
+            json("\"tomorrow \"", "2024-03-09T00:00:00", "", "", true));
 }
 
 TEST(TitleLimitTest, RecognisersSeeOnlyTheCutTitle) {
   ScopedTZ zone("UTC");
   const std::string date = " tomorrow";
   EXPECT_EQ(parseAt(kNow, std::string(512 - date.size(), 'x') + date),
-            json("\"tomorrow \"", "2024-03-09T00:00:00", "", "", true));
+            json("\"tomorrow\"", "2024-03-09T00:00:00", "", "", true));
   // One unit more and the last letter of the date falls past the limit.
   EXPECT_EQ(parseAt(kNow, std::string(513 - date.size(), 'x') + date), kEmptyJson);
 }
@@ -169,7 +170,7 @@ TEST(TitleLimitTest, RecognisersSeeOnlyTheCutTitle) {
 TEST(ParseFlowTest, RemindMeWithADateEndToEnd) {
   ScopedTZ zone("UTC");
   EXPECT_EQ(parseAt(kNow, "remind me to call mom tomorrow"),
-            json("\"tomorrow \",\"remind me\"", "2024-03-09T00:00:00", "", "\"TRIGGER:-PT0S\"", true));
+            json("\"tomorrow\",\"remind me\"", "2024-03-09T00:00:00", "", "\"TRIGGER:-PT0S\"", true));
 }
 
 TEST(ParseFlowTest, OffsetEndToEnd) {
@@ -379,7 +380,7 @@ TEST(ReminderRequestTest, RemindMeWithADate) {
   parser.parserDueDate.recognizeStrings = {L"tomorrow"};
   // isAllDay keeps the value computed before the request.
   EXPECT_EQ(narrow(parser.finishResult(L"remind me to pay rent tomorrow")),
-            json("\"tomorrow \",\"remind me\"", "2024-03-09T00:00:00", "", "\"TRIGGER:-PT0S\"", true));
+            json("\"tomorrow\",\"remind me\"", "2024-03-09T00:00:00", "", "\"TRIGGER:-PT0S\"", true));
 }
 
 TEST(ReminderRequestTest, CaseInsensitiveAndOnlyTheFirstMatch) {
