@@ -16,6 +16,7 @@
 #include "core/types.h"
 #include "values/duration.h"
 #include "values/rrule.h"
+#include "vocabulary/pattern_kit.h"
 
 namespace nlpdate {
 
@@ -148,6 +149,31 @@ class NLPNativeTitleParser {
   std::wstring getHolidayDateRecognition();
   std::optional<NLPRecognizeDate> matchHoliday(std::wstring title);
   // [chinese-stages: further declarations go here]
+  // Steps of matchAfterTime.
+  std::wstring fillChineseNumbers(const wchar_t* pattern);
+  std::optional<NLPRecognizeDate> matchUnitAfter(const std::wstring& title);
+  std::optional<NLPRecognizeDate> matchWorkDaysAfter(const PatternMatch& match);
+  void matchHoursMinutesAfter(const std::wstring& title, std::optional<NLPRecognizeDate>& result);
+  void matchHalfHourAfter(const std::wstring& title, std::optional<NLPRecognizeDate>& result);
+  void takeOffsetMatch(std::optional<NLPRecognizeDate>& result, const PatternMatch& match,
+                       const std::optional<NLPMorvaneDuration>& duration);
+  int offsetHours(const std::wstring& text);
+  // Steps of matchLunar.
+  std::optional<NLPRecognizeDate> matchNewYearDay(const std::wstring& title);
+  void placeLunarDate(std::tm* cal, int year, int month, int day, bool yearWritten);
+  void extendRuleWithLunarDate(int month, int day);
+  // Forms of matchRepeat.
+  std::wstring fillRepeatNumbers(const wchar_t* pattern);
+  void storeChineseRule(const StringRRule& rule);
+  std::optional<NLPRepeatResult> matchYearDayRepeat(const std::wstring& title);
+  std::optional<NLPRepeatResult> matchNthWeekdayRepeat(const std::wstring& title);
+  std::optional<NLPRepeatResult> matchTwoDaysRepeat(const std::wstring& title);
+  std::optional<NLPRepeatResult> matchYearlyHolidayRepeat(const std::wstring& title);
+  std::optional<NLPRepeatResult> matchOfficialWorkDayRepeat(const std::wstring& title);
+  NLPRepeatResult matchGeneralRepeat(const std::wstring& title);
+  void readWeeklyGeneral(const PatternMatch& match, StringRRule& rule, std::tm* cal);
+  void readMonthlyGeneral(const PatternMatch& match, StringRRule& rule, std::tm* cal);
+  TMPtr nthWeekdayOfMonth(int n, WeekDay weekday);
   // Chinese ranges: the written-date range and the four range recognisers the dispatcher tries.
   std::optional<NLPRecognizeDate> chineseDateDurationDateRecognition(std::wstring title);
   std::optional<NLPRecognizeDate> chineseSpecialDayDurationRecognition(std::wstring title);
