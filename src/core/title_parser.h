@@ -21,6 +21,8 @@
 namespace nlpdate {
 
 struct ChineseStages;
+struct RangeSide;
+enum class RangePiece { Named, Written, Weekday, OpenTime, ClockTime, BareTime, DayPart, Holiday };
 
 class NLPNativeTitleParser {
  public:
@@ -182,6 +184,25 @@ class NLPNativeTitleParser {
   std::optional<NLPRecognizeDate> chineseDateDurationDateTimeRecognition(std::wstring title, OptTime defaultDate,
                                                                          OptTM leadDate);
   // [chinese-ranges: further declarations go here]
+  std::optional<NLPRecognizeDate> readWrittenDateRange(const PatternMatch& match);
+  // Shared steps of the range recognisers.
+  std::wstring rangePiece(RangePiece piece);
+  std::wstring rangeTimeOrPart();
+  std::optional<NLPRecognizeDate> searchRange(const std::wstring& title, const std::wstring& left,
+                                              const std::wstring& right, OptTM fallbackDay);
+  std::optional<NLPRecognizeDate> joinRangeSides(const PatternMatch& match, int leftGroup, int rightGroup,
+                                                 OptTM fallbackDay);
+  std::optional<RangeSide> readRangeSide(const std::wstring& text);
+  bool readRangeWeekday(const std::wstring& text, RangeSide& side);
+  bool readRangeWritten(const std::wstring& text, RangeSide& side);
+  bool readRangeHoliday(const std::wstring& text, RangeSide& side);
+  void readRangeTime(const std::wstring& text, const std::wstring& dateText, RangeSide& side,
+                     const std::optional<NLPRecognizeDate>& named);
+  TMPtr rangeDefaultDay();
+  void readBareHourAsAfternoon(std::tm* record, const RangeSide& side);
+  void moveEndAfterStart(std::tm* start, std::tm* end, const RangeSide& right);
+  void rollEndedRange(std::tm* start, std::tm* end, const RangeSide& left, const RangeSide& right, bool hasTime,
+                      bool dayGiven);
   void setMonth(std::wstring month, TMPtr cal);
   void setDayOfMonth(std::wstring day, TMPtr cal);
 
@@ -271,6 +292,8 @@ class NLPNativeTitleParser {
   std::wstring holidayInfos;
   std::wstring japanHolidayInfos;
   NLPParserDueDate parserDueDate;
+  // The vocabulary of the range stage in hand, for the range recognisers that take the title alone.
+  Vocabulary rangeVocabulary;
 
  private:
   // [private: helpers of the parse flow]
