@@ -57,7 +57,7 @@ std::string answer(const std::string& text, const Settings& defaults) {
   Settings settings = settingsOf(line, defaults);
   const std::string title = stringKey(line, "title");
   ZoneScope zone(settings.zone);
-  return parseWith(settings, title);
+  return jsonLine(parseWith(settings, title));
 }
 }  // namespace
 

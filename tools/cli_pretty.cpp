@@ -1,3 +1,4 @@
+#include <cstdio>
 #include <nlohmann/json.hpp>
 #include <ostream>
 #include <vector>
@@ -7,6 +8,27 @@
 namespace nlpdate::cli {
 
 namespace {
+// Control characters as escapes, so that a tab or a newline in a title stays visible on one line.
+std::string visible(const std::string& text) {
+  std::string out;
+  for (unsigned char c : text) {
+    switch (c) {
+      case '\t': out += "\\t"; break;
+      case '\n': out += "\\n"; break;
+      case '\r': out += "\\r"; break;
+      default:
+        if (c < 0x20 || c == 0x7f) {
+          char buffer[8];
+          std::snprintf(buffer, sizeof buffer, "\\u%04x", c);
+          out += buffer;
+        } else {
+          out.push_back(static_cast<char>(c));
+        }
+    }
+  }
+  return out;
+}
+
 // Marks every place where a recognised string occurs in the (lower-cased)
 // title; neighbouring parts keep brackets of their own.
 std::string highlight(const std::string& title, const std::vector<std::string>& parts, bool colour) {
@@ -25,35 +47,42 @@ std::string highlight(const std::string& title, const std::vector<std::string>& 
   std::string out;
   for (size_t i = 0; i < shown.size(); ++i) {
     if (owner[i] >= 0 && (i == 0 || owner[i - 1] != owner[i])) out += open;
-    out.push_back(shown[i]);
+    out += visible(std::string(1, shown[i]));
     if (owner[i] >= 0 && (i + 1 == shown.size() || owner[i + 1] != owner[i])) out += close;
   }
   return out;
 }
 
 std::string orNone(const std::string& text) { return text.empty() ? "-" : text; }
+
 }  // namespace
 
-void printPretty(std::ostream& out, const std::string& title, const std::string& json, bool colour) {
-  if (json.empty()) {
-    out << title << "\n  (the parser failed on this title)\n";
+std::string jsonLine(const ParseResult& result) {
+  using nlohmann::ordered_json;
+  if (!result.ok) return ordered_json{{"error", "the parser failed on this title"}}.dump();
+  ordered_json line;
+  line["repeatFlag"] = result.repeatFlag;
+  line["recognizeStrings"] = result.recognizeStrings;
+  line["startDate"] = result.startDate;
+  line["dueDate"] = result.dueDate;
+  line["reminder"] = result.reminder;
+  line["isAllDay"] = result.isAllDay;
+  return line.dump(-1, ' ', false, ordered_json::error_handler_t::replace);
+}
+
+void printPretty(std::ostream& out, const std::string& title, const ParseResult& result, bool colour) {
+  if (!result.ok) {
+    out << visible(title) << "\n  (the parser failed on this title)\n";
     return;
   }
-  nlohmann::json parsed = nlohmann::json::parse(json, nullptr, false);
-  if (parsed.is_discarded()) {  // recognised text with a quote makes the JSON unreadable
-    out << title << "\n  " << json << "\n";
-    return;
-  }
-  std::vector<std::string> parts = parsed["recognizeStrings"].get<std::vector<std::string>>();
-  std::vector<std::string> reminders = parsed["reminder"].get<std::vector<std::string>>();
   std::string reminderText;
-  for (const std::string& reminder : reminders) reminderText += (reminderText.empty() ? "" : ", ") + reminder;
-  out << highlight(title, parts, colour) << "\n"
-      << "  repeat:    " << orNone(parsed["repeatFlag"].get<std::string>()) << "\n"
-      << "  start:     " << orNone(parsed["startDate"].get<std::string>()) << "\n"
-      << "  end:       " << orNone(parsed["dueDate"].get<std::string>()) << "\n"
+  for (const std::string& reminder : result.reminder) reminderText += (reminderText.empty() ? "" : ", ") + reminder;
+  out << highlight(title, result.recognizeStrings, colour) << "\n"
+      << "  repeat:    " << orNone(result.repeatFlag) << "\n"
+      << "  start:     " << orNone(result.startDate) << "\n"
+      << "  end:       " << orNone(result.dueDate) << "\n"
       << "  reminders: " << orNone(reminderText) << "\n"
-      << "  all-day:   " << (parsed["isAllDay"].get<bool>() ? "yes" : "no") << "\n";
+      << "  all-day:   " << (result.isAllDay ? "yes" : "no") << "\n";
 }
 
 }  // namespace nlpdate::cli

@@ -96,14 +96,14 @@ ZoneScope::~ZoneScope() {
   tzset();
 }
 
-std::string parseWith(const Settings& settings, const std::string& title) {
+ParseResult parseWith(const Settings& settings, const std::string& title) {
   NLPNativeParser parser;
   auto held = std::make_shared<Settings>(settings);  // the facade holds its source weakly
   parser.setDataSource(held);
   if (settings.now) parser.setFixedNow(localSecondsOf(*settings.now));
   std::optional<Clock::time_point> base;
   if (settings.base) base = Clock::from_time_t(static_cast<std::time_t>(localSecondsOf(*settings.base)));
-  return parser.parse(title, base);
+  return parser.parseResult(title, base);
 }
 
 }  // namespace nlpdate::cli

@@ -79,6 +79,6 @@ class ZoneScope {
 };
 
 // Parses one title with these settings; zone must already be in force.
-std::string parseWith(const Settings& settings, const std::string& title);
+ParseResult parseWith(const Settings& settings, const std::string& title);
 
 }  // namespace nlpdate::cli

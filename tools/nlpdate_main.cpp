@@ -134,11 +134,11 @@ int runTitles(const Options& options) {
   nlpdate::cli::ZoneScope zone(options.settings.zone);
   const bool colour = isatty(STDOUT_FILENO) != 0;
   for (const std::string& title : options.titles) {
-    const std::string json = nlpdate::cli::parseWith(options.settings, title);
+    const nlpdate::ParseResult result = nlpdate::cli::parseWith(options.settings, title);
     if (options.pretty) {
-      nlpdate::cli::printPretty(std::cout, title, json, colour);
+      nlpdate::cli::printPretty(std::cout, title, result, colour);
     } else {
-      std::cout << json << "\n";
+      std::cout << nlpdate::cli::jsonLine(result) << "\n";
     }
   }
   return 0;

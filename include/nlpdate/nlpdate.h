@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "nlpdate/errors.h"
 
@@ -50,6 +51,23 @@ class NLPNativeParserDataSource {
 
 using Clock = std::chrono::system_clock;
 
+// The answer for one title, field by field, with the values of the JSON text.
+struct ParseResult {
+  bool ok = false;  // false: the parser failed and the JSON text is ""
+  std::string repeatFlag;
+  std::vector<std::string> recognizeStrings;
+  std::string startDate;  // "yyyy-MM-ddTHH:mm:ss" local time, or ""
+  std::string dueDate;
+  std::vector<std::string> reminder;  // sorted, unique
+  bool isAllDay = true;
+
+  // The same keys in the same order as the parser's own text, but strict JSON:
+  // quotes, backslashes, control characters, U+2028 and U+2029 are escaped. For
+  // titles without such characters it equals the parser's text byte for byte.
+  // A failed parse gives "".
+  std::string toJson() const;
+};
+
 // The host facade. Each parse builds a parser object, applies the settings
 // and holiday texts, parses once and drops it, so one facade may serve many
 // threads at once as long as its data source may.
@@ -73,6 +91,8 @@ class NLPNativeParser : public NLPNativeParserDataSource {
   std::string parse(const std::string& title, std::optional<Clock::time_point> baseDate = std::nullopt) const;
   // The same for a C string; a null title gives "" and reads no setting.
   std::string parse(const char* title, std::optional<Clock::time_point> baseDate = std::nullopt) const;
+  // The answer field by field (see ParseResult); throws as parse does.
+  ParseResult parseResult(const std::string& title, std::optional<Clock::time_point> baseDate = std::nullopt) const;
 
   // Fixes "now" for replay and tests (seconds since the epoch); 0 or an empty
   // optional goes back to the system clock.
@@ -90,6 +110,8 @@ class NLPNativeParser : public NLPNativeParserDataSource {
   static std::string lowercase(const std::string& utf8);
 
  private:
+  std::string parseInto(const std::string& title, std::optional<Clock::time_point> baseDate,
+                        ParseResult* result) const;
   std::weak_ptr<const NLPNativeParserDataSource> source_;
   std::optional<long long> fixedNow_;
 };

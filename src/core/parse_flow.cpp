@@ -124,6 +124,7 @@ std::wstring NLPNativeTitleParser::finishResult(const std::wstring& title) {
   dropEndNotAfterStart();
   computeIsAllDay();
   if (parserDueDate.startDate) addReminderRequest(title);
+  lastTexts = parserDueDate.texts();
   std::wstring json = parserDueDate.toString();
   clearResult();
   return json;

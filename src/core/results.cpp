@@ -50,21 +50,26 @@ std::wstring formatDateText(const TimePoint& point) {
          formatMonthOrDay(local->tm_min) + L":" + formatMonthOrDay(local->tm_sec);
 }
 
-std::wstring NLPParserDueDate::toString() {
-  std::wstring json = L"{\"repeatFlag\":";
-  appendQuotedOrEmpty(json, repeatFlag);
-  json += L",\"recognizeStrings\":[";
-  appendQuotedList(json, recognizeStrings);
-  json += L"],\"startDate\":";
-  appendQuotedOrEmpty(json, optionalDateText(startDate));
-  json += L",\"dueDate\":";
-  appendQuotedOrEmpty(json, optionalDateText(dueDate));
-  json += L",\"reminder\":[";
+NLPParserDueDate::Texts NLPParserDueDate::texts() {
   std::set<std::wstring> unique(reminder.begin(), reminder.end());
   reminder.assign(unique.begin(), unique.end());
-  appendQuotedList(json, reminder);
+  return Texts{repeatFlag, recognizeStrings, optionalDateText(startDate), optionalDateText(dueDate), reminder, isAllDay};
+}
+
+std::wstring NLPParserDueDate::toString() {
+  const Texts fields = texts();
+  std::wstring json = L"{\"repeatFlag\":";
+  appendQuotedOrEmpty(json, fields.repeatFlag);
+  json += L",\"recognizeStrings\":[";
+  appendQuotedList(json, fields.recognizeStrings);
+  json += L"],\"startDate\":";
+  appendQuotedOrEmpty(json, fields.startDate);
+  json += L",\"dueDate\":";
+  appendQuotedOrEmpty(json, fields.dueDate);
+  json += L",\"reminder\":[";
+  appendQuotedList(json, fields.reminder);
   json += L"],\"isAllDay\":";
-  json += isAllDay ? L"true" : L"false";
+  json += fields.isAllDay ? L"true" : L"false";
   json += L"}";
   return json;
 }

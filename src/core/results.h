@@ -60,6 +60,16 @@ class NLPParserDueDate {
   bool isAllDay = true;
 
   void addAllRecogStr(const std::list<std::wstring>& strings);
+  // The texts the JSON holds, field by field; sorts and de-duplicates `reminder` in place first.
+  struct Texts {
+    std::wstring repeatFlag;
+    std::list<std::wstring> recognizeStrings;
+    std::wstring startDate;
+    std::wstring dueDate;
+    std::list<std::wstring> reminder;
+    bool isAllDay = true;
+  };
+  Texts texts();
   // The JSON text, fields in fixed order and nothing escaped. Sorts and
   // de-duplicates `reminder` in place first.
   std::wstring toString();

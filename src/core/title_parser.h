@@ -292,6 +292,8 @@ class NLPNativeTitleParser {
   std::wstring holidayInfos;
   std::wstring japanHolidayInfos;
   NLPParserDueDate parserDueDate;
+  // The fields of the last answer that finishResult wrote, for hosts that want them apart.
+  std::optional<NLPParserDueDate::Texts> lastTexts;
   // The vocabulary of the range stage in hand, for the range recognisers that take the title alone.
   Vocabulary rangeVocabulary;
 

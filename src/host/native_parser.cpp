@@ -30,6 +30,17 @@ void NLPNativeParser::setFixedNow(std::optional<long long> secondsSinceEpoch) {
 std::optional<long long> NLPNativeParser::fixedNow() const { return fixedNow_; }
 
 std::string NLPNativeParser::parse(const std::string& title, std::optional<Clock::time_point> baseDate) const {
+  return parseInto(title, baseDate, nullptr);
+}
+
+ParseResult NLPNativeParser::parseResult(const std::string& title, std::optional<Clock::time_point> baseDate) const {
+  ParseResult result;
+  parseInto(title, baseDate, &result);
+  return result;
+}
+
+std::string NLPNativeParser::parseInto(const std::string& title, std::optional<Clock::time_point> baseDate,
+                                       ParseResult* result) const {
   // A released data source reads as none: the facade's own defaults apply.
   std::shared_ptr<const NLPNativeParserDataSource> held = source_.lock();
   const NLPNativeParserDataSource& settings = held ? *held : *this;
@@ -50,7 +61,18 @@ std::string NLPNativeParser::parse(const std::string& title, std::optional<Clock
   if (fixedNow_) parser.setDefaultTimeSecond(static_cast<long>(*fixedNow_));
 
   const std::wstring baseText = baseDate ? utf8ToWide(stringFromDate(*baseDate)) : std::wstring();
-  return wideToUtf8(parser.parse(wideTitle, baseText, language));
+  std::string json = wideToUtf8(parser.parse(wideTitle, baseText, language));
+  if (result != nullptr && !json.empty() && parser.lastTexts) {
+    const NLPParserDueDate::Texts& texts = *parser.lastTexts;
+    result->ok = true;
+    result->repeatFlag = wideToUtf8(texts.repeatFlag);
+    for (const std::wstring& text : texts.recognizeStrings) result->recognizeStrings.push_back(wideToUtf8(text));
+    result->startDate = wideToUtf8(texts.startDate);
+    result->dueDate = wideToUtf8(texts.dueDate);
+    for (const std::wstring& text : texts.reminder) result->reminder.push_back(wideToUtf8(text));
+    result->isAllDay = texts.isAllDay;
+  }
+  return json;
 }
 
 std::string NLPNativeParser::parse(const char* title, std::optional<Clock::time_point> baseDate) const {
