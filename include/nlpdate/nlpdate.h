@@ -54,6 +54,7 @@ using Clock = std::chrono::system_clock;
 // The answer for one title, field by field, with the values of the JSON text.
 struct ParseResult {
   bool ok = false;  // false: the parser failed and the JSON text is ""
+  std::string text;  // the parser's own JSON text, as parse returns it
   std::string repeatFlag;
   std::vector<std::string> recognizeStrings;
   std::string startDate;  // "yyyy-MM-ddTHH:mm:ss" local time, or ""

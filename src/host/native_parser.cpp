@@ -62,6 +62,7 @@ std::string NLPNativeParser::parseInto(const std::string& title, std::optional<C
 
   const std::wstring baseText = baseDate ? utf8ToWide(stringFromDate(*baseDate)) : std::wstring();
   std::string json = wideToUtf8(parser.parse(wideTitle, baseText, language));
+  if (result != nullptr) result->text = json;
   if (result != nullptr && !json.empty() && parser.lastTexts) {
     const NLPParserDueDate::Texts& texts = *parser.lastTexts;
     result->ok = true;
