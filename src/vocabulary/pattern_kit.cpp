@@ -1,41 +1,14 @@
 #include "vocabulary/pattern_kit.h"
 
-#include <locale>
+#include <list>
 #include <map>
 #include <mutex>
-#include <regex>
+#include <unordered_map>
+
+#include "vocabulary/pattern_engine.h"
+#include "vocabulary/pattern_record.h"
 
 namespace nlpdate {
-
-class CompiledPattern {
- public:
-  explicit CompiledPattern(std::wregex regex) : regex(std::move(regex)) {}
-  std::wregex regex;
-};
-
-namespace {
-
-std::wregex compileReference(const std::wstring& text, PatternCase caseMode) {
-  std::wregex pattern;
-  // The classic locale keeps \b, \w and icase to ASCII whatever the host's
-  // global locale is; imbue must come before assign.
-  pattern.imbue(std::locale::classic());
-  auto flags = std::regex_constants::ECMAScript;
-  if (caseMode == PatternCase::Insensitive) flags |= std::regex_constants::icase;
-  pattern.assign(text, flags);
-  return pattern;
-}
-
-void copyGroups(const std::wstring& subject, const std::wsmatch& found, PatternMatch& match) {
-  match.reset(&subject, found.size());
-  for (size_t i = 0; i < found.size(); ++i) {
-    if (!found[i].matched) continue;
-    const long start = static_cast<long>(found[i].first - subject.begin());
-    match.setGroup(i, start, start + static_cast<long>(found[i].length()));
-  }
-}
-
-}  // namespace
 
 std::wstring PatternGroup::str() const {
   if (!matched || subject == nullptr) return std::wstring();
@@ -61,83 +34,129 @@ void PatternMatch::setGroup(size_t i, long start, long end) {
   if (i < groups_.size()) groups_[i] = {start, end};
 }
 
+namespace {
+
+// Compiled patterns, shared by every thread of the process. Patterns of the
+// recognisers are constant texts or built from the vocabulary and stay; the few
+// made from title text (recognised strings used as patterns) are bounded by
+// evicting the least recently used once the cache is full.
+class PatternCache {
+ public:
+  Pattern get(const std::wstring& text, PatternCase caseMode) {
+    const Key key{text, caseMode == PatternCase::Insensitive};
+    {
+      std::lock_guard<std::mutex> guard(lock_);
+      auto found = entries_.find(key);
+      if (found != entries_.end()) {
+        order_.splice(order_.begin(), order_, found->second.second);
+        return found->second.first;
+      }
+    }
+    Pattern compiled = compileWithEngine(defaultPatternEngine(), text, caseMode);  // outside the lock
+    std::lock_guard<std::mutex> guard(lock_);
+    auto found = entries_.find(key);
+    if (found != entries_.end()) return found->second.first;
+    order_.push_front(key);
+    entries_.emplace(key, std::make_pair(compiled, order_.begin()));
+    while (entries_.size() > kCapacity) {
+      entries_.erase(order_.back());
+      order_.pop_back();
+    }
+    return compiled;
+  }
+
+ private:
+  struct Key {
+    std::wstring text;
+    bool insensitive;
+    bool operator==(const Key& other) const { return insensitive == other.insensitive && text == other.text; }
+  };
+  struct KeyHash {
+    size_t operator()(const Key& key) const { return std::hash<std::wstring>()(key.text) ^ (key.insensitive ? 1 : 0); }
+  };
+  static constexpr size_t kCapacity = 8192;  // several times the patterns of all languages
+  std::mutex lock_;
+  std::list<Key> order_;
+  std::unordered_map<Key, std::pair<Pattern, std::list<Key>::iterator>, KeyHash> entries_;
+};
+
+}  // namespace
+
+Pattern compilePattern(const std::wstring& text, PatternCase caseMode) {
+  static PatternCache* cache = new PatternCache();  // never destroyed: threads may still parse at exit
+  return cache->get(text, caseMode);
+}
+
 bool Pattern::search(const std::wstring& subject, PatternMatch& match, size_t from) const {
   match.reset(&subject, 0);
-  if (!compiled_ || from > subject.size()) return false;
-  std::wsmatch found;
-  auto flags = from > 0 ? std::regex_constants::match_prev_avail : std::regex_constants::match_default;
-  if (!std::regex_search(subject.begin() + static_cast<long>(from), subject.end(), found, compiled_->regex, flags)) {
-    return false;
-  }
-  copyGroups(subject, found, match);
-  return true;
+  if (!compiled_) return false;
+  recordPatternOperation(*compiled_, 's', from, subject);
+  return compiled_->find(subject, from, false, match);
 }
 
 bool Pattern::search(const std::wstring& subject) const {
-  return compiled_ && std::regex_search(subject, compiled_->regex);
+  PatternMatch match;
+  return search(subject, match);
 }
 
 bool Pattern::matchWhole(const std::wstring& subject, PatternMatch& match) const {
   match.reset(&subject, 0);
   if (!compiled_) return false;
-  std::wsmatch found;
-  if (!std::regex_match(subject, found, compiled_->regex)) return false;
-  copyGroups(subject, found, match);
-  return true;
+  recordPatternOperation(*compiled_, 'w', 0, subject);
+  return compiled_->whole(subject, match);
 }
 
 bool Pattern::matchWhole(const std::wstring& subject) const {
-  return compiled_ && std::regex_match(subject, compiled_->regex);
+  PatternMatch match;
+  return matchWhole(subject, match);
 }
 
-std::wstring Pattern::replaceAll(const std::wstring& subject, const std::wstring& replacement) const {
-  if (!compiled_) return subject;
-  std::wstring out;
-  size_t copied = 0;
-  for (std::wsregex_iterator it(subject.begin(), subject.end(), compiled_->regex), end; it != end; ++it) {
-    const size_t start = static_cast<size_t>((*it)[0].first - subject.begin());
-    out.append(subject, copied, start - copied).append(replacement);
-    copied = start + static_cast<size_t>((*it)[0].length());
-  }
-  return out.append(subject, copied, std::wstring::npos);
-}
-
+// Iteration as ECMAScript's: the next search starts where the last match ended;
+// after an empty match, a non-empty one at the same place, else one unit on.
 std::vector<PatternMatch> Pattern::findAll(const std::wstring& subject) const {
   std::vector<PatternMatch> all;
   if (!compiled_) return all;
-  for (std::wsregex_iterator it(subject.begin(), subject.end(), compiled_->regex), end; it != end; ++it) {
-    PatternMatch match;
-    copyGroups(subject, *it, match);
+  recordPatternOperation(*compiled_, 'a', 0, subject);
+  PatternMatch match;
+  if (!compiled_->find(subject, 0, false, match)) return all;
+  while (true) {
     all.push_back(match);
+    const size_t end = static_cast<size_t>(match.position(0) + match.length(0));
+    if (match.length(0) == 0) {
+      if (compiled_->find(subject, end, true, match)) continue;
+      if (end >= subject.size() || !compiled_->find(subject, end + 1, false, match)) break;
+    } else if (!compiled_->find(subject, end, false, match)) {
+      break;
+    }
   }
   return all;
 }
 
+std::wstring Pattern::replaceAll(const std::wstring& subject, const std::wstring& replacement) const {
+  std::wstring out;
+  size_t copied = 0;
+  for (const PatternMatch& match : findAll(subject)) {
+    const size_t start = static_cast<size_t>(match.position(0));
+    out.append(subject, copied, start - copied).append(replacement);
+    copied = start + static_cast<size_t>(match.length(0));
+  }
+  return out.append(subject, copied, std::wstring::npos);
+}
+
 std::vector<std::wstring> Pattern::split(const std::wstring& subject) const {
+  const std::vector<PatternMatch> matches = findAll(subject);
+  if (matches.empty()) return {subject};
   std::vector<std::wstring> pieces;
-  if (!compiled_) return {subject};
-  std::wsregex_token_iterator it(subject.begin(), subject.end(), compiled_->regex, -1), end;
-  for (; it != end; ++it) pieces.push_back(it->str());
+  size_t copied = 0;
+  for (const PatternMatch& match : matches) {
+    const size_t start = static_cast<size_t>(match.position(0));
+    pieces.push_back(subject.substr(copied, start - copied));
+    copied = start + static_cast<size_t>(match.length(0));
+  }
+  if (copied < subject.size()) pieces.push_back(subject.substr(copied));
   return pieces;
 }
 
-size_t Pattern::groupCount() const { return compiled_ ? compiled_->regex.mark_count() : 0; }
-
-Pattern compilePattern(const std::wstring& text, PatternCase caseMode) {
-  // Patterns are constant texts or built from the vocabulary, so a process
-  // keeps each one compiled; compiling is the dominant cost of a search.
-  static std::mutex lock;
-  static std::map<std::pair<std::wstring, int>, std::shared_ptr<const CompiledPattern>> cache;
-  const auto key = std::make_pair(text, static_cast<int>(caseMode));
-  {
-    std::lock_guard<std::mutex> guard(lock);
-    auto found = cache.find(key);
-    if (found != cache.end()) return Pattern(found->second);
-  }
-  auto compiled = std::make_shared<const CompiledPattern>(compileReference(text, caseMode));
-  std::lock_guard<std::mutex> guard(lock);
-  if (cache.size() > 4096) cache.clear();  // titles make patterns too; keep memory bounded
-  return Pattern(cache.emplace(key, compiled).first->second);
-}
+size_t Pattern::groupCount() const { return compiled_ ? compiled_->groupCount() : 0; }
 
 }  // namespace nlpdate

@@ -50,7 +50,7 @@ class PatternMatch {
   std::vector<std::pair<long, long>> groups_;
 };
 
-class CompiledPattern;  // engine-specific, in pattern_kit.cpp
+class CompiledPattern;  // engine-specific, in pattern_engine.h
 
 class Pattern {
  public:
@@ -76,6 +76,7 @@ class Pattern {
   std::vector<std::wstring> split(const std::wstring& subject) const;
   // The number of capturing groups, group 0 not counted.
   size_t groupCount() const;
+  const std::shared_ptr<const CompiledPattern>& compiled() const { return compiled_; }
 
  private:
   std::shared_ptr<const CompiledPattern> compiled_;
