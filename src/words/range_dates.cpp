@@ -73,11 +73,10 @@ bool searchTimeRow(const std::wstring& title, const wchar_t* row, const NumericP
   }
   return false;
 }
-}  // namespace
 
 // Year rule of the numeric rows: a written year (two digits mean 20xx), or
 // next year when the date has passed.
-static void applyRangeYear(NLPNativeTitleParser& parser, std::tm* record, std::wstring yearText) {
+void applyRangeYear(NLPNativeTitleParser& parser, std::tm* record, std::wstring yearText) {
   trim(yearText);
   if (!yearText.empty()) {
     if (yearText.size() == 2) yearText = L"20" + yearText;
@@ -87,11 +86,12 @@ static void applyRangeYear(NLPNativeTitleParser& parser, std::tm* record, std::w
   }
 }
 
-static void setRangeMonthDay(NLPNativeTitleParser& parser, std::tm* record, const std::wstring& month,
+void setRangeMonthDay(NLPNativeTitleParser& parser, std::tm* record, const std::wstring& month,
                              const std::wstring& day) {
   record->tm_mon = parser.translateNum(month) - 1;
   record->tm_mday = parser.translateNum(day);
 }
+}  // namespace
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDateDuration(std::wstring title, Vocabulary vocabulary) {
   if (auto found = matchEnNumericDateDuration(title, vocabulary)) return found;
