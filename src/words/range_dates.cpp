@@ -1,5 +1,5 @@
 // Ranges between numeric dates (2024-03-05 09:00 - 2024-03-06 17:00, 3/5-3/8,
-// 3/20 - 25), tried before every other range form; the day-word rows follow in
+// 3/20 - 25), tried before every other range form; the day-word forms follow in
 // range_daywords.cpp.
 #include <vector>
 
@@ -20,7 +20,7 @@ const wchar_t* const kMdyDayRange = LR"~(«MDY»«FLAG»((1[0-2]|0?[1-9])([«DAT
 const wchar_t* const kMdyRange = LR"~(«MDY»«FLAG»(«MDY»))~";
 const wchar_t* const kMdRange = LR"~(«MD»«FLAG»(«MD»))~";
 
-// Date and time groups of the rows with times (rows 1 and 3).
+// Date and time groups of the two numeric forms with times.
 constexpr int kFirstFieldGroup = 2;
 constexpr int kMiddleFieldGroup = 4;
 constexpr int kLastFieldGroup = 6;
@@ -34,18 +34,18 @@ constexpr int kSecondLastFieldGroup = 22;
 constexpr int kEndHourGroup = 27;
 constexpr int kEndMinuteGroup = 28;
 constexpr int kEndMeridiemGroup = 29;
-// Row 2: year, month, day of the second date.
+// Year-first pair without times: year, month, day of the second date.
 constexpr int kYmdSecondYearGroup = 12;
 constexpr int kYmdSecondMonthGroup = 14;
 constexpr int kYmdSecondDayGroup = 16;
-// Row 4: the optional month and the day behind the range word.
+// Month-day to a bare day: the optional month and the day behind the range word.
 constexpr int kDayRangeMonthGroup = 11;
 constexpr int kDayRangeDayGroup = 13;
-// Row 5: month, day, year of the second date.
+// Month-first pair: month, day, year of the second date.
 constexpr int kMdySecondMonthGroup = 12;
 constexpr int kMdySecondDayGroup = 14;
 constexpr int kMdySecondYearGroup = 16;
-// Row 6: month and day of the second date.
+// Month-day pair: month and day of the second date.
 constexpr int kMdSecondMonthGroup = 10;
 constexpr int kMdSecondDayGroup = 12;
 
@@ -58,23 +58,23 @@ std::wstring fillDivider(const wchar_t* text, Vocabulary& vocabulary) {
   return fillPieces(text, {{L"DATE_DIVIDER", vocabulary[DATE_DIVIDER]}});
 }
 
-std::wstring rowText(const wchar_t* row, const NumericPieces& pieces, const std::wstring& time,
+std::wstring formText(const wchar_t* form, const NumericPieces& pieces, const std::wstring& time,
                      Vocabulary& vocabulary) {
   PatternPieces all = pieces.pieces;
   all[L"TIME"] = time;
-  return fillDivider(fillPieces(row, all).c_str(), vocabulary);
+  return fillDivider(fillPieces(form, all).c_str(), vocabulary);
 }
 
-// The first match of a row that holds «TIME», trying each clock pattern in turn.
-bool searchTimeRow(const std::wstring& title, const wchar_t* row, const NumericPieces& pieces,
+// The first match of a form that holds «TIME», trying each clock pattern in turn.
+bool searchTimeForm(const std::wstring& title, const wchar_t* form, const NumericPieces& pieces,
                    Vocabulary& vocabulary, PatternMatch& match) {
   for (const std::wstring& time : pieces.times) {
-    if (searchRange(title, rowText(row, pieces, time, vocabulary), PatternCase::Sensitive, match)) return true;
+    if (searchRange(title, formText(form, pieces, time, vocabulary), PatternCase::Sensitive, match)) return true;
   }
   return false;
 }
 
-// Year rule of the numeric rows: a written year (two digits mean 20xx), or
+// Year rule of the numeric forms: a written year (two digits mean 20xx), or
 // next year when the date has passed.
 void applyRangeYear(NLPNativeTitleParser& parser, std::tm* record, std::wstring yearText) {
   trim(yearText);
@@ -110,7 +110,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration
   TMPtr start = getDefaultTM();
   setTMToDefaultTime(start.get());
 
-  if (searchTimeRow(title, kYmdTimeRange, pieces, vocabulary, match)) {
+  if (searchTimeForm(title, kYmdTimeRange, pieces, vocabulary, match)) {
     std::wstring first = match.str(kFirstFieldGroup);
     std::wstring middle = match.str(kMiddleFieldGroup);
     std::wstring last = match.str(kLastFieldGroup);
@@ -147,7 +147,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration
     return makeRangeResult(match, start, end, ON_TIME);
   }
 
-  if (searchRange(title, rowText(kYmdRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
+  if (searchRange(title, formText(kYmdRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
     setRangeMonthDay(*this, start.get(), match.str(kMiddleFieldGroup), match.str(kLastFieldGroup));
     applyRangeYear(*this, start.get(), match.str(kFirstFieldGroup));
     TMPtr end = getTM(static_cast<long>(std::mktime(start.get())));
@@ -156,7 +156,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (searchTimeRow(title, kMdyTimeRange, pieces, vocabulary, match)) {
+  if (searchTimeForm(title, kMdyTimeRange, pieces, vocabulary, match)) {
     const RangeClock second = readRangeClock(*this, match.str(kEndHourGroup), match.str(kEndMinuteGroup),
                                              match.str(kEndMeridiemGroup), vocabulary);
     const bool hasMeridiem = !match.str(kStartMeridiemGroup).empty() || !match.str(kEndMeridiemGroup).empty();
@@ -187,7 +187,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration
     return makeRangeResult(match, start, end, ON_TIME);
   }
 
-  if (searchRange(title, rowText(kMdyDayRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
+  if (searchRange(title, formText(kMdyDayRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
     setRangeMonthDay(*this, start.get(), match.str(kFirstFieldGroup), match.str(kMiddleFieldGroup));
     std::wstring year = match.str(kLastFieldGroup);
     trim(year);
@@ -201,7 +201,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (searchRange(title, rowText(kMdyRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
+  if (searchRange(title, formText(kMdyRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
     setRangeMonthDay(*this, start.get(), match.str(kFirstFieldGroup), match.str(kMiddleFieldGroup));
     std::wstring startYear = match.str(kLastFieldGroup);
     trim(startYear);
@@ -219,7 +219,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (searchRange(title, rowText(kMdRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
+  if (searchRange(title, formText(kMdRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
     setRangeMonthDay(*this, start.get(), match.str(kFirstFieldGroup), match.str(kMiddleFieldGroup));
     TMPtr end = getTM(static_cast<long>(std::mktime(start.get())));
     setRangeMonthDay(*this, end.get(), match.str(kMdSecondMonthGroup), match.str(kMdSecondDayGroup));

@@ -118,7 +118,8 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnWeekDayDuration(std
   TMPtr end = getDefaultTM();
   setDayOfWeek(start.get(), translateDayOfWeek(match.str(kFirstDayGroup), start->tm_wday, vocabulary), startDay);
   setDayOfWeek(end.get(), translateDayOfWeek(match.str(kSecondDayGroup), end->tm_wday, vocabulary), startDay);
-  // Only the word before a day is tested here; the word after counts only in choosing the side (required).
+  // Only the word before a day is tested here; the word after counts only in choosing the side.
+  // This differs from the form with times on purpose (deliberate, kept as it is).
   const WeekWords words{match.str(kFirstBeforeGroup), match.str(kFirstAfterGroup), match.str(kSecondBeforeGroup),
                         match.str(kSecondAfterGroup), false};
   applyWeekWords(start.get(), end.get(), words, vocabulary);

@@ -23,7 +23,7 @@ RangeFound datesAt(const std::string& now, const std::string& title, bool monthF
   return rangeOf(parser, kDates, title, language);
 }
 
-TEST(RangeDatesTest, NumericRowsAreCaseSensitiveAndDayWordRowsAreNot) {
+TEST(RangeDatesTest, NumericFormsAreCaseSensitiveAndDayWordFormsAreNot) {
   ScopedTZ zone("UTC");
   // The range word "to" is matched as written: upper case leaves no range word between the dates.
   EXPECT_FALSE(datesAt("2024-02-01T10:00:00", "2024-03-05 TO 2024-03-08").present);
