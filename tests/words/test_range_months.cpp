@@ -73,6 +73,16 @@ TEST(RangeMonthsTest, MonthDatesCrossTheMonthAndTheYearEnd) {
   EXPECT_EQ(bare.end, "2025-01-02T10:00:00");
 }
 
+TEST(RangeMonthsTest, WithDaysOnBothSidesTimesReadTheDayBehindAndBareDatesTheDayBefore) {
+  ScopedTZ zone("UTC");
+  RangeFound timed = monthsAt("2024-03-13T10:00:00", "20 march 21 9am to 5pm");
+  EXPECT_EQ(timed.start, "2024-03-21T09:00:00");
+  EXPECT_EQ(timed.end, "2024-03-21T17:00:00");
+  RangeFound bare = monthsAt("2024-03-13T10:00:00", "20 march 21 to 25 april");
+  EXPECT_EQ(bare.start, "2024-03-20T10:00:00");
+  EXPECT_EQ(bare.end, "2024-04-25T10:00:00");
+}
+
 TEST(RangeMonthsTest, BareDaysWithTimesStayInTheCurrentMonth) {
   ScopedTZ zone("UTC");
   RangeFound found = monthsAt("2024-03-13T10:00:00", "20 9am to 22 5pm");
