@@ -211,6 +211,19 @@ class NLPNativeTitleParser {
                               std::wstring language);
   std::optional<NLPRecognizeDate> englishDateDurationRecognition(std::wstring title, Vocabulary vocabulary);
   // [words-driver: further declarations go here]
+  // Word-language ranges: clock times, an offset with clock times, month names, weekdays.
+  std::optional<NLPRecognizeDate> matchEnTimeDuration(std::wstring title, Vocabulary vocabulary);
+  std::optional<NLPRecognizeDate> matchEnAfterDuration(std::wstring title, Vocabulary vocabulary);
+  std::optional<NLPRecognizeDate> matchEnMonthDuration(std::wstring title, Vocabulary vocabulary);
+  std::optional<NLPRecognizeDate> matchEnWeekDayDuration(std::wstring title, Vocabulary vocabulary);
+  // Rows of matchEnDateDuration: numeric dates, then day words.
+  std::optional<NLPRecognizeDate> matchEnNumericDateDuration(const std::wstring& title, Vocabulary& vocabulary);
+  std::optional<NLPRecognizeDate> matchEnDayWordDuration(const std::wstring& title, Vocabulary& vocabulary);
+  // Steps of matchEnTimeDuration: the start in the past, then the end.
+  void rollEnTimeRangeStart(std::tm* start, std::tm* end, bool startHasMeridiem, bool twoDigitClock);
+  void rollEnTimeRangeEnd(std::tm* start, std::tm* end, int endHour, bool midnightEnd, bool endMeridiemText,
+                          bool twoDigitClock);
+  void fixEnTimeRangeOrder(std::tm* start, std::tm* end, bool endHasMeridiem, bool midnightEnd);
   // Ranges of dates, named days and weekdays; the Chinese range dispatcher asks it too.
   std::optional<NLPRecognizeDate> matchEnDateDuration(std::wstring title, Vocabulary vocabulary);
   // Stages of englishDateRecognition.
