@@ -38,7 +38,7 @@ std::wstring NLPNativeTitleParser::rangePiece(RangePiece piece) {
   return std::wstring();
 }
 
-std::optional<NLPRecognizeDate> NLPNativeTitleParser::searchRange(const std::wstring& title, const std::wstring& left,
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::searchChineseRange(const std::wstring& title, const std::wstring& left,
                                                                   const std::wstring& right, OptTM fallbackDay) {
   PatternMatch match;
   const std::wstring pattern = L"(" + left + L")" + getDurationFlag(rangeVocabulary) + L"(" + right + L")";
@@ -66,14 +66,14 @@ std::wstring NLPNativeTitleParser::rangeTimeOrPart() {
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseWeekDayDurationRecognition(std::wstring title) {
   const std::wstring time = rangeTimeOrPart();
   const std::wstring weekday = rangePiece(RangePiece::Weekday);
-  return searchRange(title, kFullDatePiece + weekday + time + L"?", L"(?:" + weekday + time + L"?|" + time + L")",
+  return searchChineseRange(title, kFullDatePiece + weekday + time + L"?", L"(?:" + weekday + time + L"?|" + time + L")",
                      std::nullopt);
 }
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseHolidayDurationRecognition(std::wstring title) {
   const std::wstring holiday = rangePiece(RangePiece::Holiday);
   const std::wstring open = L"(?:" + rangePiece(RangePiece::OpenTime) + L")?";
-  return searchRange(title, holiday + open, L"(?:" + holiday + open + L"|" + rangeTimeOrPart() + L")", std::nullopt);
+  return searchChineseRange(title, holiday + open, L"(?:" + holiday + open + L"|" + rangeTimeOrPart() + L")", std::nullopt);
 }
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseDateDurationDateTimeRecognition(std::wstring title,
@@ -84,7 +84,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseDateDurationDateTim
   const std::wstring clock = rangePiece(RangePiece::ClockTime);
   OptTM fallback = leadDate;
   if (!(fallback && *fallback) && defaultDate) fallback = tmFromTimePoint(*defaultDate);
-  return searchRange(title, day + clock, day + L"(?:" + clock + L"|" + rangePiece(RangePiece::BareTime) + L")",
+  return searchChineseRange(title, day + clock, day + L"(?:" + clock + L"|" + rangePiece(RangePiece::BareTime) + L")",
                      fallback);
 }
 

@@ -188,7 +188,7 @@ class NLPNativeTitleParser {
   // Shared steps of the range recognisers.
   std::wstring rangePiece(RangePiece piece);
   std::wstring rangeTimeOrPart();
-  std::optional<NLPRecognizeDate> searchRange(const std::wstring& title, const std::wstring& left,
+  std::optional<NLPRecognizeDate> searchChineseRange(const std::wstring& title, const std::wstring& left,
                                               const std::wstring& right, OptTM fallbackDay);
   std::optional<NLPRecognizeDate> joinRangeSides(const PatternMatch& match, int leftGroup, int rightGroup,
                                                  OptTM fallbackDay);
