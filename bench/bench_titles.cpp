@@ -3,6 +3,8 @@
 // (add --benchmark_filter=ParseLanguage/ru to time one language).
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <chrono>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -82,5 +84,61 @@ BENCHMARK_CAPTURE(BM_ParseLanguage, ko, std::string("ko"))->Unit(benchmark::kMil
 BENCHMARK_CAPTURE(BM_ParseLanguage, pt, std::string("pt"))->Unit(benchmark::kMillisecond);
 
 }  // namespace
+
+// Latency per title: each title of the language parsed on its own (after one
+// warm-up parse that compiles its patterns), reported as median and p99 in µs.
+void latencies(benchmark::State& state, const std::vector<Title>& titles) {
+  if (titles.empty()) {
+    state.SkipWithError("no titles");
+    return;
+  }
+  auto language = std::make_shared<Language>();
+  nlpdate::NLPNativeParser parser;
+  parser.setDataSource(language);
+  parser.setFixedNow(1709892000);
+  std::vector<double> micros;
+  double worst = 0;
+  for (auto _ : state) {
+    micros.clear();
+    for (const Title& title : titles) {
+      language->code = title.language;
+      benchmark::DoNotOptimize(parser.parse(title.text));  // warm-up: patterns compiled once per process
+      const auto start = std::chrono::steady_clock::now();
+      benchmark::DoNotOptimize(parser.parse(title.text));
+      const std::chrono::duration<double, std::micro> took = std::chrono::steady_clock::now() - start;
+      micros.push_back(took.count());
+    }
+  }
+  std::sort(micros.begin(), micros.end());
+  worst = micros.back();
+  state.counters["median_us"] = micros[micros.size() / 2];
+  state.counters["p99_us"] = micros[std::min(micros.size() - 1, micros.size() * 99 / 100)];
+  state.counters["max_us"] = worst;
+}
+
+// Titles made to make a backtracking pattern work hard, cut at 512 code units as the parser cuts them.
+std::vector<Title> adversarial() {
+  std::vector<Title> titles;
+  const std::string kinds[] = {"a" + std::string(510, ' ') + "b", std::string(512, '1'), std::string(512, ','),
+                               [] { std::string t; while (t.size() < 500) t += "next "; return t; }(),
+                               [] { std::string t; for (int i = 0; i < 170; ++i) t += "三"; return t; }(),
+                               [] { std::string t; while (t.size() < 480) t += "明天 3 , at "; return t; }()};
+  for (const char* language : {"en", "zh_CN", "ja", "ru", "fr", "ko", "pt"}) {
+    for (const std::string& kind : kinds) titles.push_back({language, kind});
+  }
+  return titles;
+}
+
+void BM_Latency(benchmark::State& state, const std::string& language) { latencies(state, titlesOf(language)); }
+void BM_Adversarial(benchmark::State& state) { latencies(state, adversarial()); }
+
+BENCHMARK_CAPTURE(BM_Latency, en, std::string("en"))->Iterations(3);
+BENCHMARK_CAPTURE(BM_Latency, zh_CN, std::string("zh_CN"))->Iterations(3);
+BENCHMARK_CAPTURE(BM_Latency, ja, std::string("ja"))->Iterations(3);
+BENCHMARK_CAPTURE(BM_Latency, ru, std::string("ru"))->Iterations(3);
+BENCHMARK_CAPTURE(BM_Latency, fr, std::string("fr"))->Iterations(3);
+BENCHMARK_CAPTURE(BM_Latency, ko, std::string("ko"))->Iterations(3);
+BENCHMARK_CAPTURE(BM_Latency, pt, std::string("pt"))->Iterations(3);
+BENCHMARK(BM_Adversarial)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 BENCHMARK_MAIN();
