@@ -47,12 +47,7 @@ bool NLPNativeTitleParser::takeChineseRange(const std::wstring& title, OptTime b
   std::optional<NLPRecognizeDate> range = chineseDateDurationRecognition(title, baseDate, vocabulary, repeatDate);
   if (!range) range = englishDateDurationRecognition(title, vocabulary);
   if (!range) return false;
-  parserDueDate.addAllRecogStr(range->getRecogString());
-  const OptTM start = range->getStartCal();
-  if (start && *start) parserDueDate.startDate = timePointFromTM(**start);
-  const OptTM end = range->getEndCal();
-  if (end && *end) parserDueDate.dueDate = timePointFromTM(**end);
-  if (!range->getReminder().empty()) parserDueDate.reminder.push_back(range->getReminder());
+  writeRange(*range);
   return true;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/calendar_ops.h"
+#include "chinese/week_days.h"
 #include "core/title_parser.h"
 #include "values/duration.h"
 #include "vocabulary/pattern_kit.h"
@@ -23,17 +24,6 @@ constexpr int kThisWeekGroup = 1;
 constexpr int kWeekAfterNextGroup = 2;
 constexpr int kNextWeekGroup = 3;
 constexpr int kDayGroup = 5;
-
-// 0 and 7 are both Sunday; anything outside 0..7 reads as Monday.
-WeekDay weekDayOfNumber(int value) {
-  if (value < 0 || value > 7) return Monday;
-  return value == 7 ? Sunday : static_cast<WeekDay>(value);
-}
-
-bool isWeekendDay(std::tm* record) {
-  const WeekDay day = getWeekDay(record);
-  return day == Saturday || day == Sunday;
-}
 
 void moveToWeekend(std::tm* record) {
   while (!isWeekendDay(record)) record->tm_mday += 1;

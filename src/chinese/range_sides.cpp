@@ -1,6 +1,7 @@
 // Reading one side of a Chinese range and joining the two sides into a start
 // and an end; the rules are told at the head of range_sides.h.
 #include "chinese/range_sides.h"
+#include "chinese/week_days.h"
 
 #include <algorithm>
 
@@ -28,11 +29,6 @@ bool hasDigit(const std::wstring& text) {
 }
 
 TMPtr copyOf(const TMPtr& record) { return newTM(*record); }
-
-WeekDay weekDayOfNumber(int value) {
-  if (value < 0 || value > 7) return Monday;
-  return value == 7 ? Sunday : static_cast<WeekDay>(value);
-}
 
 long minutesFrom(const TMPtr& day, std::tm* record);
 

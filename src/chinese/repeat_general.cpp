@@ -4,6 +4,7 @@
 // nothing recognised: a rule with no frequency never reaches the result.
 #include <string>
 
+#include "chinese/week_days.h"
 #include "core/calendar_ops.h"
 #include "core/title_parser.h"
 #include "vocabulary/pattern_kit.h"
@@ -24,16 +25,6 @@ constexpr int kNumber = 6;
 constexpr int kSuffix = 7;
 
 const wchar_t* const kDailyPattern = L"每(\\d{1,2}|«N12»|两)?(日|天)?";
-
-bool isWeekend(std::tm* cal) {
-  const WeekDay day = getWeekDay(cal);
-  return day == Saturday || day == Sunday;
-}
-
-std::list<NLPWeekdayNum> workWeek() {
-  return {NLPWeekdayNum(0, Monday), NLPWeekdayNum(0, Tuesday), NLPWeekdayNum(0, Wednesday),
-          NLPWeekdayNum(0, Thursday), NLPWeekdayNum(0, Friday)};
-}
 
 // "每" and groups 1 to 4: the text a work-day or weekend rule recognises.
 std::wstring headOf(const PatternMatch& match) {
@@ -62,7 +53,7 @@ NLPRepeatResult NLPNativeTitleParser::matchGeneralRepeat(const std::wstring& tit
       rule.setFreq(NLPFrequency::WEEKLY);
       rule.setWkSt(Monday);
       rule.setByDay(workWeek());
-      while (isWeekend(cal.get())) {
+      while (isWeekendDay(cal.get())) {
         cal->tm_mday += 1;
         mkTM(cal.get());
       }
@@ -119,7 +110,7 @@ void NLPNativeTitleParser::readWeeklyGeneral(const PatternMatch& match, StringRR
   if (workWord == L"工作日") {
     rule.setWkSt(Monday);
     rule.setByDay(workWeek());
-    while (isWeekend(cal)) {
+    while (isWeekendDay(cal)) {
       cal->tm_mday += 1;
       mkTM(cal);
     }
@@ -127,7 +118,7 @@ void NLPNativeTitleParser::readWeeklyGeneral(const PatternMatch& match, StringRR
   } else if (workWord == L"末" || workWord == L"周末") {
     rule.setWkSt(Monday);
     rule.setByDay({NLPWeekdayNum(0, Sunday), NLPWeekdayNum(0, Saturday)});
-    while (!isWeekend(cal)) {
+    while (!isWeekendDay(cal)) {
       cal->tm_mday += 1;
       mkTM(cal);
     }

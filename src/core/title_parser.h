@@ -228,6 +228,8 @@ class NLPNativeTitleParser {
   std::optional<NLPRecognizeDate> matchEnDateDuration(std::wstring title, Vocabulary vocabulary);
   // Stages of englishDateRecognition.
   bool takeEnRange(const std::wstring& title, OptTime baseDate, Vocabulary vocabulary);
+  // Writes a range's texts, start, end and reminder into the result (both drivers).
+  void writeRange(const NLPRecognizeDate& range);
   bool finishEnOffset(const NLPRecognizeDate& offset, OptTM dateCal, const std::wstring& title,
                       Vocabulary vocabulary, bool isFrench);
   OptTM matchEnTimeOnDate(const std::wstring& title, std::tm* calendar, bool hasDate, bool bareTimeRolls,

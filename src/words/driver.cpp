@@ -61,13 +61,17 @@ bool NLPNativeTitleParser::takeEnRange(const std::wstring& title, OptTime baseDa
   // The Chinese range recogniser is a second chance inside the word-language flow.
   if (!range) range = chineseDateDurationRecognition(title, baseDate, vocabulary, std::nullopt);
   if (!range) return false;
-  for (const std::wstring& text : range->getRecogString()) parserDueDate.recognizeStrings.push_back(text);
-  const OptTM start = range->getStartCal();
-  if (start && *start) parserDueDate.startDate = timePointFromTM(**start);
-  const OptTM end = range->getEndCal();
-  if (end && *end) parserDueDate.dueDate = timePointFromTM(**end);
-  if (!range->getReminder().empty()) parserDueDate.reminder.push_back(range->getReminder());
+  writeRange(*range);
   return true;
+}
+
+void NLPNativeTitleParser::writeRange(const NLPRecognizeDate& range) {
+  for (const std::wstring& text : range.getRecogString()) parserDueDate.recognizeStrings.push_back(text);
+  const OptTM start = range.getStartCal();
+  if (start && *start) parserDueDate.startDate = timePointFromTM(**start);
+  const OptTM end = range.getEndCal();
+  if (end && *end) parserDueDate.dueDate = timePointFromTM(**end);
+  if (!range.getReminder().empty()) parserDueDate.reminder.push_back(range.getReminder());
 }
 
 bool NLPNativeTitleParser::finishEnOffset(const NLPRecognizeDate& offset, OptTM dateCal, const std::wstring& title,
