@@ -3,6 +3,8 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
+#include <initializer_list>
 #include <ctime>
 #include <map>
 #include <memory>
@@ -20,9 +22,48 @@ using OptTime = std::optional<TimePoint>;
 using TMPtr = std::shared_ptr<std::tm>;
 using OptTM = std::optional<TMPtr>;
 
-// Vocabulary: key constant text -> alternation text. Read by subscript, so a
-// missing key reads as the empty text.
-using Vocabulary = std::map<std::wstring, std::wstring>;
+// Vocabulary: key constant text -> alternation text, as the table builders write it.
+using VocabularyTable = std::map<std::wstring, std::wstring>;
+
+// A language's vocabulary as the recognisers read it: a shared, immutable table,
+// so passing one around copies a pointer. Read by subscript; a missing key reads
+// as the empty text. Writing (set, erase) copies the table first when it is
+// shared, so a change never reaches another holder. Every distinct table has its
+// own serial, which lets derived texts (patterns built from the words) be kept.
+class Vocabulary {
+ public:
+  Vocabulary();
+  Vocabulary(VocabularyTable table);  // NOLINT: a table reads as a vocabulary
+  Vocabulary(std::initializer_list<VocabularyTable::value_type> entries);
+
+  const std::wstring& operator[](const std::wstring& key) const;
+  std::size_t count(const std::wstring& key) const { return shared_->table.count(key); }
+  std::size_t size() const { return shared_->table.size(); }
+  bool empty() const { return shared_->table.empty(); }
+  VocabularyTable::const_iterator find(const std::wstring& key) const { return shared_->table.find(key); }
+  VocabularyTable::const_iterator begin() const { return shared_->table.begin(); }
+  VocabularyTable::const_iterator end() const { return shared_->table.end(); }
+  const VocabularyTable& table() const { return shared_->table; }
+
+  void set(const std::wstring& key, std::wstring value);
+  void erase(const std::wstring& key);
+
+  friend bool operator==(const Vocabulary& a, const Vocabulary& b) { return a.table() == b.table(); }
+  friend bool operator!=(const Vocabulary& a, const Vocabulary& b) { return !(a == b); }
+
+  // Same serial, same words: a key for texts built from this vocabulary.
+  std::uint64_t serial() const { return shared_->serial; }
+
+ private:
+  struct Shared {
+    VocabularyTable table;
+    std::uint64_t serial;
+  };
+  static std::shared_ptr<Shared> share(VocabularyTable table);
+  VocabularyTable& writable();
+
+  std::shared_ptr<const Shared> shared_;
+};
 
 enum WeekDay { Sunday = 0, Monday = 1, Tuesday = 2, Wednesday = 3, Thursday = 4, Friday = 5, Saturday = 6 };
 

@@ -1,4 +1,4 @@
-// Picks the vocabulary of a language code. Each call builds the map anew.
+// Picks the vocabulary of a language code.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@ namespace nlpdate {
 class NLPTranslation {
  public:
   // "ja", "ru", "fr", "ko", "pt" by substring, in that order; anything else is English.
-  static Vocabulary getTransKeyToValue(std::wstring language);
+  static Vocabulary getTransKeyToValue(const std::wstring& language);
 };
 
 }  // namespace nlpdate

@@ -16,8 +16,8 @@ TEST(NumberWords, EnglishHasTwentyFourAlternativesInOrder) {
 
 TEST(NumberWords, MissingWordsKeepTheirBars) {
   Vocabulary vocabulary;
-  vocabulary[TWO] = L"deux";
-  vocabulary[TWENTY_FOUR] = L"vingt-quatre";
+  vocabulary.set(TWO, L"deux");
+  vocabulary.set(TWENTY_FOUR, L"vingt-quatre");
   EXPECT_EQ(numberWordAlternation(vocabulary), L"|deux||||||||||||||||||||||vingt-quatre");
 }
 

@@ -148,9 +148,9 @@ TEST_F(VocabularyTables, UpperCaseCodesAreEnglish) {
   EXPECT_EQ(of(L"PT-br")[LOCAL], L"en");
 }
 
-TEST_F(VocabularyTables, EachCallBuildsAFreshMap) {
+TEST_F(VocabularyTables, ChangingACopyLeavesTheLanguageAlone) {
   Vocabulary first = of(L"fr");
-  first[MORNING] = L"changed";
+  first.set(MORNING, L"changed");
   first.erase(EVENING);
   Vocabulary second = of(L"fr");
   EXPECT_EQ(second[MORNING], L"Matin|morning");
@@ -174,11 +174,11 @@ TEST_F(VocabularyTables, EveryMapHasAllKeysButTheThreeInKeys) {
 
 TEST_F(VocabularyTables, InWeeksReadsEmptyInEveryMap) {
   for (const auto& code : languages()) {
-    Vocabulary vocabulary = of(code);
+    const Vocabulary vocabulary = of(code);
     EXPECT_EQ(vocabulary[IN_WEEKS], L"") << testing::narrow(code);
     EXPECT_EQ(vocabulary[IN_MONTHS], L"") << testing::narrow(code);
     EXPECT_EQ(vocabulary[IN_YEARS], L"") << testing::narrow(code);
-    EXPECT_EQ(vocabulary.size(), 127u);  // reading added them to this copy only
+    EXPECT_EQ(vocabulary.size(), 124u);  // reading adds nothing
     EXPECT_EQ(of(code).size(), 124u);
   }
 }
@@ -233,7 +233,7 @@ TEST_F(VocabularyTables, EveryValueMatchesItsHash) {
 TEST_F(VocabularyTables, HashSeesASingleUnitChange) {
   Vocabulary vocabulary = of(L"en");
   const std::uint64_t before = vocabularyHash(vocabulary);
-  vocabulary[THURSDAY] = L"thursday|thursday|thurs|thur|thu";
+  vocabulary.set(THURSDAY, L"thursday|thursday|thurs|thur|thu");
   EXPECT_NE(vocabularyHash(vocabulary), before);
 }
 
@@ -324,6 +324,39 @@ TEST_F(VocabularyTables, PortugueseValues) {
   EXPECT_EQ(pt[MORNING], L"manhã|manha|morning");
   EXPECT_EQ(pt[START], L"começando|comecando|começa|comeca|início|inicio|starting|start");
   EXPECT_EQ(pt[TWENTY_FOUR], L"vinte e quatro|twenty four");
+}
+
+}  // namespace
+}  // namespace nlpdate
+
+namespace nlpdate {
+namespace {
+
+TEST(SharedVocabulary, ALanguageIsBuiltOnceAndSharedBySerial) {
+  EXPECT_EQ(NLPTranslation::getTransKeyToValue(L"fr").serial(), NLPTranslation::getTransKeyToValue(L"fr-CA").serial());
+  EXPECT_NE(NLPTranslation::getTransKeyToValue(L"fr").serial(), NLPTranslation::getTransKeyToValue(L"en").serial());
+}
+
+TEST(SharedVocabulary, AChangeGivesANewSerialAndLeavesOtherCopies) {
+  const Vocabulary french = NLPTranslation::getTransKeyToValue(L"fr");
+  Vocabulary copy = french;
+  EXPECT_EQ(copy.serial(), french.serial());
+  copy.set(MORNING, L"aube");
+  EXPECT_NE(copy.serial(), french.serial());
+  EXPECT_EQ(copy[MORNING], L"aube");
+  EXPECT_EQ(french[MORNING], L"Matin|morning");
+  const std::uint64_t afterSet = copy.serial();
+  copy.erase(MORNING);
+  EXPECT_NE(copy.serial(), afterSet);
+  EXPECT_EQ(copy[MORNING], L"");
+  EXPECT_EQ(copy.count(MORNING), 0u);
+}
+
+TEST(SharedVocabulary, AnEmptyVocabularyReadsEmptyEverywhere) {
+  const Vocabulary none;
+  EXPECT_TRUE(none.empty());
+  EXPECT_EQ(none[MORNING], L"");
+  EXPECT_EQ(none.size(), 0u);
 }
 
 }  // namespace

@@ -150,7 +150,7 @@ TEST_F(Offsets, FirstMatchingPatternDecidesEvenWithoutAnOffset) {
 TEST_F(Offsets, UnitThatNoTestAcceptsGivesNothing) {
   // A unit alternative written as a pattern matches in the title but is no
   // unit word as plain text.
-  OffsetOutcome outcome = run("in 3 zzz", "en", [](Vocabulary& v) { v[YEAR] = L"zz+"; });
+  OffsetOutcome outcome = run("in 3 zzz", "en", [](Vocabulary& v) { v.set(YEAR, L"zz+"); });
   EXPECT_FALSE(outcome.found);
   EXPECT_EQ(outcome.startDate, "");
   EXPECT_TRUE(outcome.reminders.empty());

@@ -5,8 +5,8 @@
 
 namespace nlpdate {
 
-Vocabulary buildEnglishVocabulary() {
-  Vocabulary vocabulary{
+VocabularyTable buildEnglishVocabulary() {
+  VocabularyTable vocabulary{
       {LOCAL, L"en"},
       {TWENTY_FOUR_HOUR_FLAG, L"@|at|：|:"},
       {DAY_END, L"st\\.?|ed\\.?|rd\\.?|th\\.?|nd\\.?"},

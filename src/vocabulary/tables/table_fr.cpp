@@ -5,8 +5,8 @@
 
 namespace nlpdate {
 
-Vocabulary buildFrenchVocabulary() {
-  Vocabulary vocabulary{
+VocabularyTable buildFrenchVocabulary() {
+  VocabularyTable vocabulary{
       {LOCAL, L"fr"},
       {TWENTY_FOUR_HOUR_FLAG, L"@|at|：|:"},
       {DAY_END, L"st\\.?|ed\\.?|rd\\.?|th\\.?|nd\\.?"},

@@ -6,8 +6,8 @@
 
 namespace nlpdate {
 
-Vocabulary buildJapaneseVocabulary() {
-  Vocabulary vocabulary{
+VocabularyTable buildJapaneseVocabulary() {
+  VocabularyTable vocabulary{
       {LOCAL, L"ja"},
       {TWENTY_FOUR_HOUR_FLAG, L"@|at|：|:"},
       {DAY_END, L"st\\.?|ed\\.?|rd\\.?|th\\.?|nd\\.?"},

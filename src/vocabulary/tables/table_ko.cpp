@@ -5,8 +5,8 @@
 
 namespace nlpdate {
 
-Vocabulary buildKoreanVocabulary() {
-  Vocabulary vocabulary{
+VocabularyTable buildKoreanVocabulary() {
+  VocabularyTable vocabulary{
       {LOCAL, L"ko"},
       {TWENTY_FOUR_HOUR_FLAG, L"@|at|：|:"},
       {DAY_END, L"일에|일|st\\.?|ed\\.?|rd\\.?|th\\.?|nd\\.?"},

@@ -5,8 +5,8 @@
 
 namespace nlpdate {
 
-Vocabulary buildPortugueseVocabulary() {
-  Vocabulary vocabulary{
+VocabularyTable buildPortugueseVocabulary() {
+  VocabularyTable vocabulary{
       {LOCAL, L"pt"},
       {TWENTY_FOUR_HOUR_FLAG, L"@|at|：|:"},
       {DAY_END, L"st\\.?|ed\\.?|rd\\.?|th\\.?|nd\\.?"},

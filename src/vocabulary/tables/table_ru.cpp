@@ -5,8 +5,8 @@
 
 namespace nlpdate {
 
-Vocabulary buildRussianVocabulary() {
-  Vocabulary vocabulary{
+VocabularyTable buildRussianVocabulary() {
+  VocabularyTable vocabulary{
       {LOCAL, L"ru"},
       {TWENTY_FOUR_HOUR_FLAG, L"в|@|at|：|:"},
       {DAY_END, L"st\\.?|ed\\.?|rd\\.?|th\\.?|nd\\.?"},

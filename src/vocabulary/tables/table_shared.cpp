@@ -4,7 +4,7 @@
 
 namespace nlpdate {
 
-void addSharedValues(Vocabulary& vocabulary) {
+void addSharedValues(VocabularyTable& vocabulary) {
   vocabulary[TWO_DIGITAL] = L"\\d{0,2}";
   vocabulary[FOUR_YEAR_DIGITAL] = L"\\d{4}";
   vocabulary[FOUR_OR_TWO_YEAR_DIGITAL] = L"\\d{4}|\\d{2}";

@@ -1,4 +1,4 @@
-// Builders of the per-language vocabularies. Each call makes a fresh map with
+// Builders of the per-language vocabularies. Each call makes a fresh table with
 // LOCAL, the shared digit/divider values and the language's own words.
 #pragma once
 
@@ -7,13 +7,13 @@
 namespace nlpdate {
 
 // Adds the values that every language shares (digit patterns, dividers).
-void addSharedValues(Vocabulary& vocabulary);
+void addSharedValues(VocabularyTable& vocabulary);
 
-Vocabulary buildEnglishVocabulary();
-Vocabulary buildJapaneseVocabulary();
-Vocabulary buildRussianVocabulary();
-Vocabulary buildFrenchVocabulary();
-Vocabulary buildKoreanVocabulary();
-Vocabulary buildPortugueseVocabulary();
+VocabularyTable buildEnglishVocabulary();
+VocabularyTable buildJapaneseVocabulary();
+VocabularyTable buildRussianVocabulary();
+VocabularyTable buildFrenchVocabulary();
+VocabularyTable buildKoreanVocabulary();
+VocabularyTable buildPortugueseVocabulary();
 
 }  // namespace nlpdate
