@@ -1,5 +1,6 @@
 #include "words/month_patterns.h"
 
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/text_kit.h"
 #include "words/piece_fill.h"
@@ -8,29 +9,31 @@ namespace nlpdate {
 
 namespace {
 
-const wchar_t* const kPlainMonths =
+const wchar_t *const kPlainMonths =
     LR"~(«JANUARY»|«FEBRUARY»|«marchWord»|«APRIL»|«MAY»|«JUNE»|«JULY»|«AUGUST»|«SEPTEMBER»|«OCTOBER»|«NOVEMBER»|«DECEMBER»)~";
-const wchar_t* const kDecemberFirstMonths =
+const wchar_t *const kDecemberFirstMonths =
     LR"~(«DECEMBER»|«NOVEMBER»|«OCTOBER»|«JANUARY»|«FEBRUARY»|«marchWord»|«APRIL»|«MAY»|«JUNE»|«JULY»|«AUGUST»|«SEPTEMBER»)~";
-const wchar_t* const kMainMonths =
+const wchar_t *const kMainMonths =
     LR"~(«JANUARY»|«FEBRUARY»|«marchWord»|«aprilWord»|«mayWord»|«JUNE»|«JULY»|«AUGUST»|«SEPTEMBER»|«OCTOBER»|«addWordBorderInStartAndEnd(NOVEMBER)»|«DECEMBER»)~";
-const wchar_t* const kFrenchApril = LR"~(avril|april)~";
-const wchar_t* const kEnglishApril = LR"~(april(?:$|\s)|apr(?:$|\s))~";
+const wchar_t *const kFrenchApril = LR"~(avril|april)~";
+const wchar_t *const kEnglishApril = LR"~(april(?:$|\s)|apr(?:$|\s))~";
 
-const wchar_t* const kDayTime =
+const wchar_t *const kDayTime =
     LR"~((3[0-1]|[0-2]?[0-9])\s*(«DAY_END»)?\s*(«plainMonths»)\s*,?\s*((2[0-4]|[0-1]?[0-9])[«TIME_DIVIDER»]([0-5]?[0-9]|60)))~";
-const wchar_t* const kTimeDay =
+const wchar_t *const kTimeDay =
     LR"~(((2[0-4]|[0-1]?[0-9])[«TIME_DIVIDER»]([0-5]?[0-9]|60))\s*,?\s*(«DAY_END»)?\s*(«plainMonths»)\s*(3[0-1]|[0-2]?[0-9]))~";
-const wchar_t* const kMain =
+const wchar_t *const kMain =
     LR"~(()(«addWordBorderInStartAndEnd(ON_BY)»)?\s*((\s?(3[0-1]|[0-2]?[0-9]|«MIDDLE»))(«DAY_END»)?\s*(?:«OF»)?\s*)?(«mainMonths»)(\s?(3[0-1]|[0-2]?[0-9]))?(«DAY_END»)?,?( *(\d{4}))?)~";
-const wchar_t* const kOrdinalDay = LR"~((\(|\b)(«ON_BY»)?\s*((\s?(3[0-1]|[0-2]?[0-9]))(«DAY_END»)))~";
-const wchar_t* const kDayFirst = LR"~(\s?(3[0-1]|[0-2]?[0-9])\s*(«decemberFirstMonths»)\s*,?\s*(\d{4})?)~";
-const wchar_t* const kStartWithDay =
+const wchar_t *const kOrdinalDay =
+    LR"~((\(|\b)(«ON_BY»)?\s*((\s?(3[0-1]|[0-2]?[0-9]))(«DAY_END»)))~";
+const wchar_t *const kDayFirst =
+    LR"~(\s?(3[0-1]|[0-2]?[0-9])\s*(«decemberFirstMonths»)\s*,?\s*(\d{4})?)~";
+const wchar_t *const kStartWithDay =
     LR"~(()(«ON_BY»)?\s*((\s?(3[0-1]|[0-2]?[0-9]|«MIDDLE»))(«DAY_END»)?\s*(?:«OF»)?\s*)?(«plainMonths»)(())?()?,?( *(\d+))?(a|p)?)~";
-const wchar_t* const kStartWithMonth =
+const wchar_t *const kStartWithMonth =
     LR"~(()()?\s*((\s?())()?\s*(?:«OF»)?\s*)?(«decemberFirstMonths»)(\s?(3[0-1]|[0-2]?[0-9]))?(«DAY_END»)?,?( *(\d{4}))?)~";
 
-PatternPieces monthWords(Vocabulary& vocabulary) {
+PatternPieces monthWords(Vocabulary &vocabulary) {
   bool isPt = isVocabularyLanguage(vocabulary, L"pt");
   return {{L"JANUARY", vocabulary[JANUARY]},
           {L"FEBRUARY", vocabulary[FEBRUARY]},
@@ -47,76 +50,107 @@ PatternPieces monthWords(Vocabulary& vocabulary) {
 }
 
 // Russian and Korean month words take no border at their end.
-std::wstring borderedMonthList(const wchar_t* list, Vocabulary& vocabulary) {
+std::wstring borderedMonthList(const wchar_t *list, Vocabulary &vocabulary) {
   std::wstring text = fillPieces(list, monthWords(vocabulary));
-  bool plain = isVocabularyLanguage(vocabulary, L"ru") || isVocabularyLanguage(vocabulary, L"ko");
+  bool plain = isVocabularyLanguage(vocabulary, L"ru") ||
+               isVocabularyLanguage(vocabulary, L"ko");
   return plain ? text : addWordBorderInEndWithOutReg(text);
 }
 
-std::wstring aprilWord(Vocabulary& vocabulary) {
-  if (isVocabularyLanguage(vocabulary, L"fr")) return kFrenchApril;
-  if (isVocabularyLanguage(vocabulary, L"en")) return kEnglishApril;
-  if (isVocabularyLanguage(vocabulary, L"ru")) return addWordBorderInEnd(vocabulary[APRIL]);
+std::wstring aprilWord(Vocabulary &vocabulary) {
+  if (isVocabularyLanguage(vocabulary, L"fr"))
+    return kFrenchApril;
+  if (isVocabularyLanguage(vocabulary, L"en"))
+    return kEnglishApril;
+  if (isVocabularyLanguage(vocabulary, L"ru"))
+    return addWordBorderInEnd(vocabulary[APRIL]);
   return addWordBorderInStartAndEnd(vocabulary[APRIL], false);
 }
 
-std::wstring mainMonths(Vocabulary& vocabulary) {
+std::wstring mainMonths(Vocabulary &vocabulary) {
   bool isFr = isVocabularyLanguage(vocabulary, L"fr");
   PatternPieces pieces = monthWords(vocabulary);
   pieces[L"aprilWord"] = aprilWord(vocabulary);
-  pieces[L"mayWord"] = isFr ? addWordBorderInStartAndEnd(vocabulary[MAY]) : vocabulary[MAY];
-  pieces[L"addWordBorderInStartAndEnd(NOVEMBER)"] = addWordBorderInStartAndEnd(vocabulary[NOVEMBER]);
+  pieces[L"mayWord"] =
+      isFr ? addWordBorderInStartAndEnd(vocabulary[MAY]) : vocabulary[MAY];
+  pieces[L"addWordBorderInStartAndEnd(NOVEMBER)"] =
+      addWordBorderInStartAndEnd(vocabulary[NOVEMBER]);
   std::wstring text = fillPieces(kMainMonths, pieces);
-  bool plain = isVocabularyLanguage(vocabulary, L"ru") || isVocabularyLanguage(vocabulary, L"ko") || isFr;
+  bool plain = isVocabularyLanguage(vocabulary, L"ru") ||
+               isVocabularyLanguage(vocabulary, L"ko") || isFr;
   return plain ? text : addWordBorderInEndWithOutReg(text);
 }
 
-}  // namespace
+} // namespace
 
-bool isVocabularyLanguage(Vocabulary& vocabulary, const wchar_t* code) {
+bool isVocabularyLanguage(Vocabulary &vocabulary, const wchar_t *code) {
   return vocabulary[LOCAL].find(code) != std::wstring::npos;
 }
 
-std::wstring getEnMonthRecognition(Vocabulary vocabulary) {
-  return fillPieces(kMain, {{L"addWordBorderInStartAndEnd(ON_BY)", addWordBorderInStartAndEnd(vocabulary[ON_BY])},
-                            {L"MIDDLE", vocabulary[MIDDLE]},
-                            {L"DAY_END", vocabulary[DAY_END]},
-                            {L"OF", vocabulary[OF]},
-                            {L"mainMonths", mainMonths(vocabulary)}});
+const std::wstring &getEnMonthRecognition(Vocabulary vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring {
+    return fillPieces(kMain, {{L"addWordBorderInStartAndEnd(ON_BY)",
+                               addWordBorderInStartAndEnd(vocabulary[ON_BY])},
+                              {L"MIDDLE", vocabulary[MIDDLE]},
+                              {L"DAY_END", vocabulary[DAY_END]},
+                              {L"OF", vocabulary[OF]},
+                              {L"mainMonths", mainMonths(vocabulary)}});
+  });
 }
 
-std::wstring getEnMonthRecognitionStartWithMonth(Vocabulary vocabulary) {
-  return fillPieces(kStartWithMonth, {{L"OF", vocabulary[OF]},
-                                      {L"decemberFirstMonths", borderedMonthList(kDecemberFirstMonths, vocabulary)},
-                                      {L"DAY_END", vocabulary[DAY_END]}});
+const std::wstring &getEnMonthRecognitionStartWithMonth(Vocabulary vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring {
+    return fillPieces(kStartWithMonth,
+                      {{L"OF", vocabulary[OF]},
+                       {L"decemberFirstMonths",
+                        borderedMonthList(kDecemberFirstMonths, vocabulary)},
+                       {L"DAY_END", vocabulary[DAY_END]}});
+  });
 }
 
-std::wstring getEnMonthRecognitionStartWithDay(Vocabulary vocabulary) {
-  return fillPieces(kStartWithDay, {{L"ON_BY", vocabulary[ON_BY]},
-                                    {L"MIDDLE", vocabulary[MIDDLE]},
-                                    {L"DAY_END", vocabulary[DAY_END]},
-                                    {L"OF", vocabulary[OF]},
-                                    {L"plainMonths", borderedMonthList(kPlainMonths, vocabulary)}});
+const std::wstring &getEnMonthRecognitionStartWithDay(Vocabulary vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring {
+    return fillPieces(
+        kStartWithDay,
+        {{L"ON_BY", vocabulary[ON_BY]},
+         {L"MIDDLE", vocabulary[MIDDLE]},
+         {L"DAY_END", vocabulary[DAY_END]},
+         {L"OF", vocabulary[OF]},
+         {L"plainMonths", borderedMonthList(kPlainMonths, vocabulary)}});
+  });
 }
 
-std::wstring getEnMonthDayTimePattern(Vocabulary vocabulary) {
-  return fillPieces(kDayTime, {{L"DAY_END", vocabulary[DAY_END]},
-                               {L"plainMonths", borderedMonthList(kPlainMonths, vocabulary)},
-                               {L"TIME_DIVIDER", vocabulary[TIME_DIVIDER]}});
+const std::wstring &getEnMonthDayTimePattern(Vocabulary vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring {
+    return fillPieces(kDayTime, {{L"DAY_END", vocabulary[DAY_END]},
+                                 {L"plainMonths",
+                                  borderedMonthList(kPlainMonths, vocabulary)},
+                                 {L"TIME_DIVIDER", vocabulary[TIME_DIVIDER]}});
+  });
 }
 
-std::wstring getEnMonthTimeDayPattern(Vocabulary vocabulary) {
-  return fillPieces(kTimeDay, {{L"DAY_END", vocabulary[DAY_END]},
-                               {L"plainMonths", borderedMonthList(kPlainMonths, vocabulary)},
-                               {L"TIME_DIVIDER", vocabulary[TIME_DIVIDER]}});
+const std::wstring &getEnMonthTimeDayPattern(Vocabulary vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring {
+    return fillPieces(kTimeDay, {{L"DAY_END", vocabulary[DAY_END]},
+                                 {L"plainMonths",
+                                  borderedMonthList(kPlainMonths, vocabulary)},
+                                 {L"TIME_DIVIDER", vocabulary[TIME_DIVIDER]}});
+  });
 }
 
-std::wstring getEnMonthOrdinalDayPattern(Vocabulary vocabulary) {
-  return fillPieces(kOrdinalDay, {{L"ON_BY", vocabulary[ON_BY]}, {L"DAY_END", vocabulary[DAY_END]}});
+const std::wstring &getEnMonthOrdinalDayPattern(Vocabulary vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring {
+    return fillPieces(kOrdinalDay, {{L"ON_BY", vocabulary[ON_BY]},
+                                    {L"DAY_END", vocabulary[DAY_END]}});
+  });
 }
 
-std::wstring getEnMonthDayFirstPattern(Vocabulary vocabulary) {
-  return fillPieces(kDayFirst, {{L"decemberFirstMonths", borderedMonthList(kDecemberFirstMonths, vocabulary)}});
+const std::wstring &getEnMonthDayFirstPattern(Vocabulary vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring {
+    return fillPieces(kDayFirst,
+                      {{L"decemberFirstMonths",
+                        borderedMonthList(kDecemberFirstMonths, vocabulary)}});
+  });
 }
 
-}  // namespace nlpdate
+} // namespace nlpdate

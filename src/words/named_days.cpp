@@ -2,34 +2,43 @@
 // after tomorrow and tonight, each relative to the current default day.
 #include "words/named_days.h"
 
-
 #include "core/title_parser.h"
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
 
 namespace nlpdate {
 
-std::wstring getSpecialDayRecognition(Vocabulary vocabulary) {
-  // Russian words for tomorrow are bordered at both ends.
-  const bool isRussian = vocabulary[LOCAL].find(L"ru") != std::wstring::npos;
-  const std::wstring tomorrowWord =
-      isRussian ? addWordBorderInStartAndEnd(vocabulary[TOMORROW]) : addWordBorderInEnd(vocabulary[TOMORROW]);
-  return L"(" + addWordBorderInEnd(vocabulary[YESTERDAY]) + L"|" + addWordBorderInEnd(vocabulary[TODAY]) + L"|" +
-         addWordBorderInEnd(vocabulary[DAY_AFTER_TOMORROW]) + L"|" + tomorrowWord + L"|" +
-         addWordBorderInEnd(vocabulary[TONIGHT]) + L")(\\s)*";
+const std::wstring &getSpecialDayRecognition(Vocabulary vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring {
+    // Russian words for tomorrow are bordered at both ends.
+    const bool isRussian = vocabulary[LOCAL].find(L"ru") != std::wstring::npos;
+    const std::wstring tomorrowWord =
+        isRussian ? addWordBorderInStartAndEnd(vocabulary[TOMORROW])
+                  : addWordBorderInEnd(vocabulary[TOMORROW]);
+    return L"(" + addWordBorderInEnd(vocabulary[YESTERDAY]) + L"|" +
+           addWordBorderInEnd(vocabulary[TODAY]) + L"|" +
+           addWordBorderInEnd(vocabulary[DAY_AFTER_TOMORROW]) + L"|" +
+           tomorrowWord + L"|" + addWordBorderInEnd(vocabulary[TONIGHT]) +
+           L")(\\s)*";
+  });
 }
 
-std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnSpecialDate(std::wstring title,
-                                                                         Vocabulary vocabulary) {
+std::optional<NLPRecognizeDate>
+NLPNativeTitleParser::matchEnSpecialDate(std::wstring title,
+                                         Vocabulary vocabulary) {
   PatternMatch match;
-  if (!compilePattern(getSpecialDayRecognition(vocabulary), PatternCase::Insensitive).search(title, match)) {
+  if (!compilePattern(getSpecialDayRecognition(vocabulary),
+                      PatternCase::Insensitive)
+           .search(title, match)) {
     return std::nullopt;
   }
   TMPtr record = getDefaultTM();
   clearValueAfterDay(record.get());
   const std::wstring word = toLowerCase(match[0].str());
-  // Yesterday first and the day after tomorrow ahead of tomorrow, which it contains.
+  // Yesterday first and the day after tomorrow ahead of tomorrow, which it
+  // contains.
   if (containStr(word, vocabulary[YESTERDAY])) {
     record->tm_mday -= 1;
   } else if (containStr(word, vocabulary[TODAY])) {
@@ -39,9 +48,10 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnSpecialDate(std::ws
     record->tm_mday += 1;
   } else if (containStr(word, vocabulary[TONIGHT])) {
     record->tm_hour = 21;
-    parserDueDate.reminder.push_back(ON_TIME);  // tonight carries a time of day
+    parserDueDate.reminder.push_back(ON_TIME); // tonight carries a time of day
   }
-  return NLPRecognizeDate(match[0].str(), static_cast<long>(match.position(0)), record);
+  return NLPRecognizeDate(match[0].str(), static_cast<long>(match.position(0)),
+                          record);
 }
 
-}  // namespace nlpdate
+} // namespace nlpdate

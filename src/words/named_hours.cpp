@@ -3,6 +3,7 @@
 // user's hour and step forward by whole hours while they lie in the past.
 
 #include "core/title_parser.h"
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
@@ -12,27 +13,33 @@ namespace nlpdate {
 namespace {
 
 // Latin words get word borders; in Portuguese every word gets a leading one.
-std::wstring morningWords(Vocabulary& vocabulary) {
-  const std::wstring value = vocabulary[MORNING];
-  if (value.empty()) return value;
-  const bool isPortuguese = vocabulary[LOCAL].find(L"pt") != std::wstring::npos;
-  std::wstring words;
-  size_t begin = 0;
-  while (true) {
-    size_t bar = value.find(L'|', begin);
-    const std::wstring word = value.substr(begin, bar == std::wstring::npos ? std::wstring::npos : bar - begin);
-    if (isAsciiCode(word)) {
-      words += L"\\b" + word + L"\\b|";
-    } else if (isPortuguese) {
-      words += L"\\b" + word + L"|";
-    } else {
-      words += word + L"|";
+const std::wstring &morningWords(Vocabulary &vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring {
+    const std::wstring value = vocabulary[MORNING];
+    if (value.empty())
+      return value;
+    const bool isPortuguese =
+        vocabulary[LOCAL].find(L"pt") != std::wstring::npos;
+    std::wstring words;
+    size_t begin = 0;
+    while (true) {
+      size_t bar = value.find(L'|', begin);
+      const std::wstring word = value.substr(
+          begin, bar == std::wstring::npos ? std::wstring::npos : bar - begin);
+      if (isAsciiCode(word)) {
+        words += L"\\b" + word + L"\\b|";
+      } else if (isPortuguese) {
+        words += L"\\b" + word + L"|";
+      } else {
+        words += word + L"|";
+      }
+      if (bar == std::wstring::npos)
+        break;
+      begin = bar + 1;
     }
-    if (bar == std::wstring::npos) break;
-    begin = bar + 1;
-  }
-  words.pop_back();
-  return words;
+    words.pop_back();
+    return words;
+  });
 }
 
 struct DayPart {
@@ -42,23 +49,28 @@ struct DayPart {
   int limit;
 };
 
-}  // namespace
+} // namespace
 
-std::map<std::wstring, std::pair<int, int>> NLPNativeTitleParser::getEnSpecialHourMap(Vocabulary vocabulary) {
+std::map<std::wstring, std::pair<int, int>>
+NLPNativeTitleParser::getEnSpecialHourMap(Vocabulary vocabulary) {
   const std::wstring at = L"(" + vocabulary[AT] + L")?\\s*";
   std::map<std::wstring, std::pair<int, int>> hours;
   hours[at + addWordBorderInStartAndEnd(vocabulary[NOON])] = {12, 0};
   hours[at + addWordBorderInStartAndEnd(vocabulary[SUPPER])] = {18, 0};
   hours[at + addWordBorderInStartAndEnd(vocabulary[BRUNCH])] = {10, 0};
-  hours[at + addWordBorderInStartAndEnd(vocabulary[TONIGHT])] = {nightHour, nightMinute};
+  hours[at + addWordBorderInStartAndEnd(vocabulary[TONIGHT])] = {nightHour,
+                                                                 nightMinute};
   hours[at + addWordBorderInStartAndEnd(vocabulary[MIDNIGHT])] = {0, 0};
   return hours;
 }
 
-OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary) {
+OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title,
+                                               std::tm *calendar,
+                                               Vocabulary vocabulary) {
   PatternMatch match;
-  for (const auto& [pattern, time] : getEnSpecialHourMap(vocabulary)) {
-    if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;
+  for (const auto &[pattern, time] : getEnSpecialHourMap(vocabulary)) {
+    if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match))
+      continue;
     TMPtr record = getDefaultTM();
     copyTM(calendar, record.get());
     setTMToDefaultTime(record.get());
@@ -72,27 +84,37 @@ OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title, std::tm* cale
   return matchEnDayPart(title, calendar, vocabulary);
 }
 
-OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary) {
+OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring &title,
+                                           std::tm *calendar,
+                                           Vocabulary vocabulary) {
   const std::wstring at = L"(" + vocabulary[AT] + L")?\\s*";
   const DayPart parts[] = {
       {at + morningWords(vocabulary), morningHour, morningMinute, 12},
-      {at + addWordBorderInStartAndEnd(vocabulary[AFTERNOON]), afternoonHour, afternoonMinute, 17},
-      {at + addWordBorderInStartAndEnd(vocabulary[EVENING]), eveningHour, eveningMinute, 19},
-      {at + addWordBorderInStartAndEnd(vocabulary[NIGHT]), nightHour, nightMinute, 24},
+      {at + addWordBorderInStartAndEnd(vocabulary[AFTERNOON]), afternoonHour,
+       afternoonMinute, 17},
+      {at + addWordBorderInStartAndEnd(vocabulary[EVENING]), eveningHour,
+       eveningMinute, 19},
+      {at + addWordBorderInStartAndEnd(vocabulary[NIGHT]), nightHour,
+       nightMinute, 24},
   };
   PatternMatch match;
-  for (const DayPart& part : parts) {
-    if (!compilePattern(part.pattern, PatternCase::Insensitive).search(title, match)) continue;
+  for (const DayPart &part : parts) {
+    if (!compilePattern(part.pattern, PatternCase::Insensitive)
+             .search(title, match))
+      continue;
     TMPtr record = getDefaultTM();
     copyTM(calendar, record.get());
     setTMToDefaultTime(record.get());
     record->tm_hour = part.hour;
     record->tm_min = part.minute;
-    // Step a whole hour at a time to the first one ahead of now, up to the limit.
+    // Step a whole hour at a time to the first one ahead of now, up to the
+    // limit.
     for (int h = part.hour; h < part.limit; h = record->tm_hour) {
-      if (!isBeforeNow(record.get())) break;
+      if (!isBeforeNow(record.get()))
+        break;
       record->tm_hour += 1;
-      if (!isBeforeNow(record.get())) break;
+      if (!isBeforeNow(record.get()))
+        break;
     }
     if (isBeforeNow(record.get())) {
       // The day part is over today, so it means tomorrow.
@@ -106,4 +128,4 @@ OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring& title, std::tm* c
   return std::nullopt;
 }
 
-}  // namespace nlpdate
+} // namespace nlpdate

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "core/title_parser.h"
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
@@ -13,16 +14,17 @@ namespace nlpdate {
 namespace {
 
 // A point divides only where a four-digit year makes the date certain.
-const wchar_t* const kDayMonthFullYear =
+const wchar_t *const kDayMonthFullYear =
     LR"~((\(|\b)(«ON_BY»)?\s*(3[0-1]|[0-2]?[0-9])([\.«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])([\.«DATE_DIVIDER»])?(\d{4})(\)|\b)(\s)*)~";
-const wchar_t* const kRelativeMonthYear = LR"~((«NEXT»\s+(«MONTH»|«YEAR»))|(«END_OF_MONTH»))~";
-const wchar_t* const kFullYearFirst =
+const wchar_t *const kRelativeMonthYear =
+    LR"~((«NEXT»\s+(«MONTH»|«YEAR»))|(«END_OF_MONTH»))~";
+const wchar_t *const kFullYearFirst =
     LR"~((\(|\b)(«ON_BY»)?\s*(\d{4})([\.«DATE_DIVIDER»])?(1[0-2]|0?[1-9])([\.«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])(\)|\b)(\s)*)~";
-const wchar_t* const kDayMonthShortYear =
+const wchar_t *const kDayMonthShortYear =
     LR"~((\(|\b)(«ON_BY»)?\s*(3[0-1]|[0-2]?[0-9])([«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])([«DATE_DIVIDER»])?(\d{2})(\)|\b)(\s)*)~";
-const wchar_t* const kMonthFirstNoYear =
+const wchar_t *const kMonthFirstNoYear =
     LR"~((\(|\b)(«ON_BY»)?\s*(1[0-2]|0?[0-9])([«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])([«DATE_DIVIDER»])?(\)|\b)(?!\.)(\s)*)~";
-const wchar_t* const kDayFirstNoYear =
+const wchar_t *const kDayFirstNoYear =
     LR"~((\(|\b)(«ON_BY»)?\s*(3[0-1]|[0-2]?[0-9])([«DATE_DIVIDER»])(1[0-2]|0?[0-9])([«DATE_DIVIDER»])?(\)|\b)(?!\.)(\s)*)~";
 
 // Which groups hold month, day and year; a relative phrase has none.
@@ -33,7 +35,7 @@ struct DateFields {
 };
 
 struct NumericStep {
-  const wchar_t* pattern;
+  const wchar_t *pattern;
   bool relative;
   DateFields fields;
 };
@@ -55,29 +57,38 @@ std::vector<NumericStep> numericSteps(bool monthFirst) {
   return steps;
 }
 
-PatternPieces numericPieces(Vocabulary& vocabulary) {
-  return {{L"ON_BY", vocabulary[ON_BY]}, {L"DATE_DIVIDER", vocabulary[DATE_DIVIDER]},
-          {L"NEXT", vocabulary[NEXT]},   {L"MONTH", vocabulary[MONTH]},
-          {L"YEAR", vocabulary[YEAR]},   {L"END_OF_MONTH", vocabulary[END_OF_MONTH]}};
+const PatternPieces &numericPieces(Vocabulary &vocabulary) {
+  return keptFor(vocabulary, [&]() -> PatternPieces {
+    return {{L"ON_BY", vocabulary[ON_BY]},
+            {L"DATE_DIVIDER", vocabulary[DATE_DIVIDER]},
+            {L"NEXT", vocabulary[NEXT]},
+            {L"MONTH", vocabulary[MONTH]},
+            {L"YEAR", vocabulary[YEAR]},
+            {L"END_OF_MONTH", vocabulary[END_OF_MONTH]}};
+  });
 }
 
 // A two-digit year means 20xx. With no year a date that has passed this year
 // means next year. In a bracketed date with no year the year group holds the
-// closing ")", which is read as a year all the same, as the rule has always done.
-void applyYear(NLPNativeTitleParser& parser, std::tm* record, std::wstring yearText, long todaySeconds) {
+// closing ")", which is read as a year all the same, as the rule has always
+// done.
+void applyYear(NLPNativeTitleParser &parser, std::tm *record,
+               std::wstring yearText, long todaySeconds) {
   trim(yearText);
   if (!yearText.empty()) {
-    if (yearText.size() == 2) yearText = L"20" + yearText;
+    if (yearText.size() == 2)
+      yearText = L"20" + yearText;
     record->tm_year = parser.translateNum(yearText) - 1900;
     return;
   }
-  if (secondsOf(timePointFromTM(*record)) < todaySeconds) record->tm_year += 1;
+  if (secondsOf(timePointFromTM(*record)) < todaySeconds)
+    record->tm_year += 1;
 }
 
 // Fields go in as read: a month of 13 or a day of 31 in a short month is
 // carried over by the later normalising.
-TMPtr readFields(NLPNativeTitleParser& parser, const PatternMatch& match, const DateFields& fields,
-                 long todaySeconds) {
+TMPtr readFields(NLPNativeTitleParser &parser, const PatternMatch &match,
+                 const DateFields &fields, long todaySeconds) {
   TMPtr record = parser.getDefaultTM();
   parser.setTMToDefaultTime(record.get());
   std::wstring monthText = match[fields.month].str();
@@ -90,7 +101,8 @@ TMPtr readFields(NLPNativeTitleParser& parser, const PatternMatch& match, const 
   return record;
 }
 
-TMPtr readRelative(NLPNativeTitleParser& parser, const PatternMatch& match, Vocabulary& vocabulary) {
+TMPtr readRelative(NLPNativeTitleParser &parser, const PatternMatch &match,
+                   Vocabulary &vocabulary) {
   TMPtr record = parser.getDefaultTM();
   parser.setTMToDefaultTime(record.get());
   std::wstring unit = toLowerCase(match[2].str());
@@ -103,26 +115,31 @@ TMPtr readRelative(NLPNativeTitleParser& parser, const PatternMatch& match, Voca
     record->tm_mday = 1;
   } else if (!match[3].str().empty()) {
     record->tm_mon += 1;
-    record->tm_mday = 0;  // day 0 of next month: the last day of this one
+    record->tm_mday = 0; // day 0 of next month: the last day of this one
   }
   mkTM(record.get());
   return record;
 }
 
-}  // namespace
+} // namespace
 
-std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDate(std::wstring title, Vocabulary vocabulary) {
+std::optional<NLPRecognizeDate>
+NLPNativeTitleParser::matchEnDate(std::wstring title, Vocabulary vocabulary) {
   long todaySeconds = today();
   PatternPieces pieces = numericPieces(vocabulary);
-  for (const NumericStep& step : numericSteps(isUsOrUkDateFormat)) {
-    Pattern pattern = compilePattern(fillPieces(step.pattern, pieces), PatternCase::Insensitive);
+  for (const NumericStep &step : numericSteps(isUsOrUkDateFormat)) {
+    Pattern pattern = compilePattern(fillPieces(step.pattern, pieces),
+                                     PatternCase::Insensitive);
     PatternMatch match;
-    if (!pattern.search(title, match)) continue;
-    TMPtr record = step.relative ? readRelative(*this, match, vocabulary)
-                                 : readFields(*this, match, step.fields, todaySeconds);
-    return NLPRecognizeDate(match[0].str(), static_cast<long>(match.position(0)), record);
+    if (!pattern.search(title, match))
+      continue;
+    TMPtr record = step.relative
+                       ? readRelative(*this, match, vocabulary)
+                       : readFields(*this, match, step.fields, todaySeconds);
+    return NLPRecognizeDate(match[0].str(),
+                            static_cast<long>(match.position(0)), record);
   }
   return std::nullopt;
 }
 
-}  // namespace nlpdate
+} // namespace nlpdate

@@ -1,0 +1,48 @@
+// What a recogniser builds from a vocabulary's words (pattern texts, word lists,
+// compiled patterns) depends on those words alone. keptFor builds it once per
+// call site, vocabulary and variant, and hands back the kept value afterwards.
+// The value lives as long as the thread; only the language tables and the
+// vocabularies a test makes by hand have serials, so the store stays small.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <type_traits>
+#include <unordered_map>
+#include <utility>
+
+#include "core/types.h"
+
+namespace nlpdate {
+
+struct DerivedKey {
+  std::uint64_t serial;
+  std::uint64_t variant;
+  bool operator==(const DerivedKey& other) const { return serial == other.serial && variant == other.variant; }
+};
+
+struct DerivedKeyHash {
+  size_t operator()(const DerivedKey& key) const {
+    return std::hash<std::uint64_t>()(key.serial * 0x9E3779B97F4A7C15ull ^ key.variant);
+  }
+};
+
+// Each lambda is a type of its own, so each call site gets a store of its own.
+// variant tells apart what one site builds for different arguments (a list
+// pointer, a flag); it must capture everything besides the words that the
+// builder reads.
+template <class Build>
+const std::decay_t<std::invoke_result_t<Build&>>& keptFor(const Vocabulary& vocabulary, Build build,
+                                                          std::uint64_t variant = 0) {
+  using Value = std::decay_t<std::invoke_result_t<Build&>>;
+  thread_local std::unordered_map<DerivedKey, Value, DerivedKeyHash> kept;
+  const DerivedKey key{vocabulary.serial(), variant};
+  auto found = kept.find(key);
+  if (found != kept.end()) return found->second;
+  return kept.emplace(key, build()).first->second;
+}
+
+// For variants named by a constant text (a pattern template).
+inline std::uint64_t variantOf(const void* constant) { return reinterpret_cast<std::uintptr_t>(constant); }
+
+}  // namespace nlpdate
