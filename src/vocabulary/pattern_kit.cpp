@@ -39,45 +39,73 @@ namespace {
 // Compiled patterns, shared by every thread of the process. Patterns of the
 // recognisers are constant texts or built from the vocabulary and stay; the few
 // made from title text (recognised strings used as patterns) are bounded by
-// evicting the least recently used once the cache is full.
+// evicting the least recently used once the cache is full. Pattern texts run to
+// thousands of units, so a lookup hashes a sample of the text and compares the
+// whole text only against entries of the same sample, without copying it.
 class PatternCache {
  public:
   Pattern get(const std::wstring& text, PatternCase caseMode) {
-    const Key key{text, caseMode == PatternCase::Insensitive};
+    const bool insensitive = caseMode == PatternCase::Insensitive;
+    const size_t hash = sampleHash(text, insensitive);
     {
       std::lock_guard<std::mutex> guard(lock_);
-      auto found = entries_.find(key);
-      if (found != entries_.end()) {
-        order_.splice(order_.begin(), order_, found->second.second);
-        return found->second.first;
-      }
+      if (const Pattern* kept = findLocked(hash, text, insensitive)) return *kept;
     }
     Pattern compiled = compileWithEngine(defaultPatternEngine(), text, caseMode);  // outside the lock
     std::lock_guard<std::mutex> guard(lock_);
-    auto found = entries_.find(key);
-    if (found != entries_.end()) return found->second.first;
-    order_.push_front(key);
-    entries_.emplace(key, std::make_pair(compiled, order_.begin()));
-    while (entries_.size() > kCapacity) {
-      entries_.erase(order_.back());
-      order_.pop_back();
-    }
+    if (const Pattern* kept = findLocked(hash, text, insensitive)) return *kept;
+    order_.push_front(Entry{text, insensitive, hash, compiled});
+    index_.emplace(hash, order_.begin());
+    while (order_.size() > kCapacity) evictOldestLocked();
     return compiled;
   }
 
  private:
-  struct Key {
+  struct Entry {
     std::wstring text;
     bool insensitive;
-    bool operator==(const Key& other) const { return insensitive == other.insensitive && text == other.text; }
+    size_t hash;
+    Pattern pattern;
   };
-  struct KeyHash {
-    size_t operator()(const Key& key) const { return std::hash<std::wstring>()(key.text) ^ (key.insensitive ? 1 : 0); }
-  };
+  using Position = std::list<Entry>::iterator;
+
+  static size_t sampleHash(const std::wstring& text, bool insensitive) {
+    constexpr size_t kSamples = 64;
+    size_t hash = text.size() * 2 + (insensitive ? 1 : 0);
+    const size_t step = text.size() / kSamples + 1;
+    auto mix = [&hash](wchar_t unit) { hash = (hash ^ static_cast<size_t>(unit)) * 0x100000001B3ull; };
+    for (size_t at = 0; at < text.size(); at += step) mix(text[at]);
+    for (size_t back = 1; back <= 16 && back <= text.size(); ++back) mix(text[text.size() - back]);
+    return hash;
+  }
+
+  const Pattern* findLocked(size_t hash, const std::wstring& text, bool insensitive) {
+    auto [from, to] = index_.equal_range(hash);
+    for (auto at = from; at != to; ++at) {
+      Position entry = at->second;
+      if (entry->insensitive != insensitive || entry->text != text) continue;
+      order_.splice(order_.begin(), order_, entry);
+      return &entry->pattern;
+    }
+    return nullptr;
+  }
+
+  void evictOldestLocked() {
+    Position oldest = std::prev(order_.end());
+    auto [from, to] = index_.equal_range(oldest->hash);
+    for (auto at = from; at != to; ++at) {
+      if (at->second == oldest) {
+        index_.erase(at);
+        break;
+      }
+    }
+    order_.pop_back();
+  }
+
   static constexpr size_t kCapacity = 8192;  // several times the patterns of all languages
   std::mutex lock_;
-  std::list<Key> order_;
-  std::unordered_map<Key, std::pair<Pattern, std::list<Key>::iterator>, KeyHash> entries_;
+  std::list<Entry> order_;  // most recently used first
+  std::unordered_multimap<size_t, Position> index_;
 };
 
 }  // namespace
