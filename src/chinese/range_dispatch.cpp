@@ -16,37 +16,26 @@ namespace {
 // reaches this stage too.
 bool mayHoldChineseRange(const std::wstring &title) {
   return std::any_of(title.begin(), title.end(), [](wchar_t c) {
-    return (c >= L'0' && c <= L'9') || (c >= 0x3400 && c <= 0x9fff) ||
-           (c >= 0xf900 && c <= 0xfaff);
+    return (c >= L'0' && c <= L'9') || (c >= 0x3400 && c <= 0x9fff) || (c >= 0xf900 && c <= 0xfaff);
   });
 }
 
-} // namespace
+}  // namespace
 
-std::optional<NLPRecognizeDate>
-NLPNativeTitleParser::chineseDateDurationRecognition(std::wstring title,
-                                                     OptTime defaultDate,
-                                                     Vocabulary vocabulary,
-                                                     OptTM leadDate) {
-  const Pattern &rangeWord = keptFor(vocabulary, [&vocabulary] {
-    return compilePattern(getDurationFlag(vocabulary));
-  });
-  if (!rangeWord.search(title))
-    return std::nullopt;
-  if (!mayHoldChineseRange(title))
-    return std::nullopt;
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseDateDurationRecognition(std::wstring title,
+                                                                                     OptTime defaultDate,
+                                                                                     Vocabulary vocabulary,
+                                                                                     OptTM leadDate) {
+  const Pattern &rangeWord = keptFor(vocabulary, [&vocabulary] { return compilePattern(getDurationFlag(vocabulary)); });
+  if (!rangeWord.search(title)) return std::nullopt;
+  if (!mayHoldChineseRange(title)) return std::nullopt;
   rangeVocabulary = vocabulary;
-  if (auto range = chineseSpecialDayDurationRecognition(title))
-    return range;
-  if (auto range = chineseWeekDayDurationRecognition(title))
-    return range;
-  if (auto range = matchEnDateDuration(title, vocabulary))
-    return range;
-  if (auto range = chineseHolidayDurationRecognition(title))
-    return range;
-  if (auto range = chineseDateDurationDateRecognition(title))
-    return range;
+  if (auto range = chineseSpecialDayDurationRecognition(title)) return range;
+  if (auto range = chineseWeekDayDurationRecognition(title)) return range;
+  if (auto range = matchEnDateDuration(title, vocabulary)) return range;
+  if (auto range = chineseHolidayDurationRecognition(title)) return range;
+  if (auto range = chineseDateDurationDateRecognition(title)) return range;
   return chineseDateDurationDateTimeRecognition(title, defaultDate, leadDate);
 }
 
-} // namespace nlpdate
+}  // namespace nlpdate

@@ -34,16 +34,14 @@ struct DateTexts {
   std::wstring day;
 };
 
-DateTexts textsOf(const PatternMatch &match, int year, int yearSeparator,
-                  int month, int monthSeparator, int day) {
-  return {match.str(year), match.str(yearSeparator), match.str(month),
-          match.str(monthSeparator), match.str(day)};
+DateTexts textsOf(const PatternMatch &match, int year, int yearSeparator, int month, int monthSeparator, int day) {
+  return {match.str(year), match.str(yearSeparator), match.str(month), match.str(monthSeparator), match.str(day)};
 }
 
 // Two differing separators read as month and day, as in a single written date.
 void shiftMixedSeparators(DateTexts &date) {
-  if (date.yearSeparator == L"年" || date.monthSeparator == L"月" ||
-      date.yearSeparator.empty() || date.yearSeparator == date.monthSeparator) {
+  if (date.yearSeparator == L"年" || date.monthSeparator == L"月" || date.yearSeparator.empty() ||
+      date.yearSeparator == date.monthSeparator) {
     return;
   }
   date.day = date.month;
@@ -53,8 +51,8 @@ void shiftMixedSeparators(DateTexts &date) {
 
 // Fills the end from the second date; a year left out moves both dates on when
 // the end is past.
-void completeEnd(NLPNativeTitleParser &parser, const DateTexts &one,
-                 const DateTexts &two, std::tm *start, const TMPtr &end) {
+void completeEnd(NLPNativeTitleParser &parser, const DateTexts &one, const DateTexts &two, std::tm *start,
+                 const TMPtr &end) {
   if (!two.year.empty() && !two.month.empty()) {
     parser.setYear(two.year, end);
     parser.setMonth(two.month, end);
@@ -79,10 +77,9 @@ void completeEnd(NLPNativeTitleParser &parser, const DateTexts &one,
   }
 }
 
-} // namespace
+}  // namespace
 
-std::optional<NLPRecognizeDate>
-NLPNativeTitleParser::chineseDateDurationDateRecognition(std::wstring title) {
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseDateDurationDateRecognition(std::wstring title) {
   // Every pairing of the written-date forms, first form outermost.
   const std::vector<Pattern> &pairings = keptFor(rangeVocabulary, [this] {
     const std::vector<std::wstring> dates = getChineseDatePattern();
@@ -90,34 +87,27 @@ NLPNativeTitleParser::chineseDateDurationDateRecognition(std::wstring title) {
     std::vector<Pattern> all;
     for (const std::wstring &first : dates) {
       for (const std::wstring &second : dates)
-        all.push_back(
-            compilePattern(L"(" + first + L")" + flag + L"(" + second + L")"));
+        all.push_back(compilePattern(L"(" + first + L")" + flag + L"(" + second + L")"));
     }
     return all;
   });
   for (const Pattern &pairing : pairings) {
     PatternMatch match;
-    if (!pairing.search(title, match))
-      continue;
-    if (auto range = readWrittenDateRange(match))
-      return range;
+    if (!pairing.search(title, match)) continue;
+    if (auto range = readWrittenDateRange(match)) return range;
   }
   return std::nullopt;
 }
 
-std::optional<NLPRecognizeDate>
-NLPNativeTitleParser::readWrittenDateRange(const PatternMatch &match) {
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::readWrittenDateRange(const PatternMatch &match) {
   TMPtr start = getDefaultTM();
   setTMToDefaultTime(start.get());
   TMPtr end = getDefaultTM();
   setTMToDefaultTime(end.get());
-  DateTexts one = textsOf(match, kFirstYear, kFirstYearSeparator, kFirstMonth,
-                          kFirstMonthSeparator, kFirstDay);
-  DateTexts two = textsOf(match, kSecondYear, kSecondYearSeparator,
-                          kSecondMonth, kSecondMonthSeparator, kSecondDay);
+  DateTexts one = textsOf(match, kFirstYear, kFirstYearSeparator, kFirstMonth, kFirstMonthSeparator, kFirstDay);
+  DateTexts two = textsOf(match, kSecondYear, kSecondYearSeparator, kSecondMonth, kSecondMonthSeparator, kSecondDay);
   shiftMixedSeparators(one);
-  if (isOverMonthLimit(one.month))
-    return std::nullopt;
+  if (isOverMonthLimit(one.month)) return std::nullopt;
   if (!one.year.empty() && !one.month.empty()) {
     setYear(one.year, start);
     setMonth(one.month, start);
@@ -128,8 +118,7 @@ NLPNativeTitleParser::readWrittenDateRange(const PatternMatch &match) {
   } else if (one.month.empty() && !one.day.empty()) {
     setDayOfMonth(one.day, start);
     setDayOfMonth(one.day, end);
-    if (translateNum(one.day) > translateNum(two.day))
-      end->tm_mon += 1; // 25号到3号 ends next month
+    if (translateNum(one.day) > translateNum(two.day)) end->tm_mon += 1;  // 25号到3号 ends next month
   } else if (one.year.empty() && !one.month.empty()) {
     setMonth(one.month, start);
     setDayOfMonth(one.day, start);
@@ -137,15 +126,13 @@ NLPNativeTitleParser::readWrittenDateRange(const PatternMatch &match) {
     setDayOfMonth(one.day, end);
   }
   shiftMixedSeparators(two);
-  if (isOverMonthLimit(two.month))
-    return std::nullopt;
+  if (isOverMonthLimit(two.month)) return std::nullopt;
   completeEnd(*this, one, two, start.get(), end);
   clearValueAfterDay(start.get());
   clearValueAfterDay(end.get());
   mkTM(start.get());
   mkTM(end.get());
-  return NLPRecognizeDate(match.str(0), match.position(0), OptTM(start),
-                          OptTM(end));
+  return NLPRecognizeDate(match.str(0), match.position(0), OptTM(start), OptTM(end));
 }
 
-} // namespace nlpdate
+}  // namespace nlpdate

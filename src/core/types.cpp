@@ -41,9 +41,7 @@ TMPtr newTM() { return std::make_shared<std::tm>(); }
 
 TMPtr newTM(const std::tm& value) { return std::make_shared<std::tm>(value); }
 
-TimePoint timePointFromSeconds(long long seconds) {
-  return TimePoint(std::chrono::seconds(seconds));
-}
+TimePoint timePointFromSeconds(long long seconds) { return TimePoint(std::chrono::seconds(seconds)); }
 
 long long secondsOf(const TimePoint& point) {
   return std::chrono::duration_cast<std::chrono::seconds>(point.time_since_epoch()).count();

@@ -4,8 +4,8 @@
 
 #include <chrono>
 #include <cstdint>
-#include <initializer_list>
 #include <ctime>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <optional>

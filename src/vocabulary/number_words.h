@@ -13,4 +13,4 @@ namespace nlpdate {
 // empty alternative with its bar.
 const std::wstring &numberWordAlternation(Vocabulary &vocabulary);
 
-} // namespace nlpdate
+}  // namespace nlpdate

@@ -13,4 +13,4 @@ namespace nlpdate {
 // group, which every range pattern counts on.
 const std::wstring &getDurationFlag(const Vocabulary &vocabulary);
 
-} // namespace nlpdate
+}  // namespace nlpdate

@@ -16,57 +16,46 @@ namespace {
 
 const std::wstring &amWordsPattern(Vocabulary &vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
-    return L"(" + addWordBorderInStart(vocabulary[MORNING]) + L"|" +
-           addWordBorderInStart(vocabulary[MIDNIGHT]) + L")()";
+    return L"(" + addWordBorderInStart(vocabulary[MORNING]) + L"|" + addWordBorderInStart(vocabulary[MIDNIGHT]) +
+           L")()";
   });
 }
 
 const std::wstring &pmWordsPattern(Vocabulary &vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
-    return L"(" + addWordBorderInStart(vocabulary[AFTERNOON]) + L"|" +
-           addWordBorderInStart(vocabulary[EVENING]) + L"|" +
-           addWordBorderInStart(vocabulary[NIGHT]) + L"|" +
-           addWordBorderInStart(vocabulary[TONIGHT]) + L"|" +
+    return L"(" + addWordBorderInStart(vocabulary[AFTERNOON]) + L"|" + addWordBorderInStart(vocabulary[EVENING]) +
+           L"|" + addWordBorderInStart(vocabulary[NIGHT]) + L"|" + addWordBorderInStart(vocabulary[TONIGHT]) + L"|" +
            addWordBorderInStart(vocabulary[NOON]) + L")";
   });
 }
 
-} // namespace
+}  // namespace
 
-std::vector<std::wstring>
-NLPNativeTitleParser::getEnTimePattern(Vocabulary vocabulary) {
-  const std::wstring lead =
-      L"(" + addWordBorderInStart(vocabulary[ON_AT]) + L")?";
+std::vector<std::wstring> NLPNativeTitleParser::getEnTimePattern(Vocabulary vocabulary) {
+  const std::wstring lead = L"(" + addWordBorderInStart(vocabulary[ON_AT]) + L")?";
   const std::wstring ampm = vocabulary[AM_PM];
   const std::wstring clock = vocabulary[CLOCK];
   const std::wstring minute = vocabulary[MINUTE];
   const std::wstring words = numberWordAlternation(vocabulary);
   return {
-      L"\\s*" + lead + L"\\s*(\\b)(2[0-4]|[0-1]?[0-9])(?::([0-5]?[0-9]))? ?(" +
-          ampm + L")()\\s*",
+      L"\\s*" + lead + L"\\s*(\\b)(2[0-4]|[0-1]?[0-9])(?::([0-5]?[0-9]))? ?(" + ampm + L")()\\s*",
       lead + L"\\s*((2[0-4]|[0-1]?[0-9])[:|：]([0-5][0-9]))(\\b)()\\s*",
-      lead + L"\\s*((2[0-4]|[0-1]?[0-9])\\s*(?:" + clock +
-          L")\\s*([0-5][0-9])?(?:" + minute + L")?) ?(" + ampm + L")?()\\s*",
+      lead + L"\\s*((2[0-4]|[0-1]?[0-9])\\s*(?:" + clock + L")\\s*([0-5][0-9])?(?:" + minute + L")?) ?(" + ampm +
+          L")?()\\s*",
       lead + L"\\s*(\\b)(" + words + L")( ?)(" + ampm + L")\\b()\\s*",
-      lead + L"\\s*()(" + words + L")\\s?(?:" + clock + L")\\s*(\\d)?(?:" +
-          minute + L")?()()\\s*",
+      lead + L"\\s*()(" + words + L")\\s?(?:" + clock + L")\\s*(\\d)?(?:" + minute + L")?()()\\s*",
   };
 }
 
-OptTM NLPNativeTitleParser::matchEnCompactTime(const std::wstring &title,
-                                               std::tm *calendar,
-                                               Vocabulary vocabulary,
+OptTM NLPNativeTitleParser::matchEnCompactTime(const std::wstring &title, std::tm *calendar, Vocabulary vocabulary,
                                                bool hasDate) {
   PatternMatch match;
-  const std::wstring pattern =
-      L"\\b(\\d{1,2})\\.?(\\d{2})\\s*(" + vocabulary[AM_PM] + L")";
-  if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match))
-    return std::nullopt;
+  const std::wstring pattern = L"\\b(\\d{1,2})\\.?(\\d{2})\\s*(" + vocabulary[AM_PM] + L")";
+  if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) return std::nullopt;
   parserDueDate.reminder.push_back(ON_TIME);
   TMPtr record = getDefaultTM();
   copyTM(calendar, record.get());
-  if (!hasDate)
-    setTMToDefaultTime(record.get());
+  if (!hasDate) setTMToDefaultTime(record.get());
   const int hour = translateNum(match[1].str());
   const std::wstring dayPart = toLowerCase(match[3].str());
   if (containStr(dayPart, vocabulary[AM])) {
@@ -80,9 +69,7 @@ OptTM NLPNativeTitleParser::matchEnCompactTime(const std::wstring &title,
   return record;
 }
 
-bool NLPNativeTitleParser::readListDayPart(std::tm *record, int number,
-                                           std::wstring dayPart,
-                                           const std::wstring &title,
+bool NLPNativeTitleParser::readListDayPart(std::tm *record, int number, std::wstring dayPart, const std::wstring &title,
                                            Vocabulary vocabulary) {
   trim(dayPart);
   if (!dayPart.empty()) {
@@ -97,62 +84,47 @@ bool NLPNativeTitleParser::readListDayPart(std::tm *record, int number,
   // decides, and with both kinds the pm reading wins.
   bool seen = false;
   PatternMatch match;
-  if (compilePattern(amWordsPattern(vocabulary), PatternCase::Insensitive)
-          .search(title, match)) {
+  if (compilePattern(amWordsPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     parserDueDate.recognizeStrings.push_back(match[0].str());
-    if (record->tm_hour >= 12)
-      record->tm_hour -= 12;
+    if (record->tm_hour >= 12) record->tm_hour -= 12;
     seen = true;
   }
-  if (compilePattern(pmWordsPattern(vocabulary), PatternCase::Insensitive)
-          .search(title, match)) {
+  if (compilePattern(pmWordsPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     parserDueDate.recognizeStrings.push_back(match[0].str());
-    if (record->tm_hour <= 11)
-      record->tm_hour += 12;
+    if (record->tm_hour <= 11) record->tm_hour += 12;
     seen = true;
   }
   return seen;
 }
 
-OptTM NLPNativeTitleParser::matchEnListTime(const std::wstring &title,
-                                            std::tm *calendar,
-                                            Vocabulary vocabulary, bool hasDate,
-                                            bool isFrench) {
+OptTM NLPNativeTitleParser::matchEnListTime(const std::wstring &title, std::tm *calendar, Vocabulary vocabulary,
+                                            bool hasDate, bool isFrench) {
   PatternMatch match;
   bool found = false;
   for (const std::wstring &pattern : getEnTimePattern(vocabulary)) {
-    if (compilePattern(pattern, PatternCase::Insensitive)
-            .search(title, match)) {
+    if (compilePattern(pattern, PatternCase::Insensitive).search(title, match)) {
       found = true;
       break;
     }
   }
-  if (!found)
-    return std::nullopt;
+  if (!found) return std::nullopt;
   TMPtr record = getDefaultTM();
   copyTM(calendar, record.get());
   parserDueDate.reminder.push_back(ON_TIME);
   // A date that the repeat stage fixed wins over the calendar handed in.
-  if (parserDueDate.startDate)
-    copyTM(tmFromTimePoint(*parserDueDate.startDate).get(), record.get());
-  if (!hasDate)
-    setTMToDefaultTime(record.get());
+  if (parserDueDate.startDate) copyTM(tmFromTimePoint(*parserDueDate.startDate).get(), record.get());
+  if (!hasDate) setTMToDefaultTime(record.get());
   const int number = matchEnglishNum(match[3].str(), vocabulary);
   const std::wstring dayPart = match[5].str();
-  record->tm_hour =
-      (number <= 12 && !dayPart.empty() && !isFrench) ? number % 12 : number;
+  record->tm_hour = (number <= 12 && !dayPart.empty() && !isFrench) ? number % 12 : number;
   std::wstring minute = match[4].str();
   trim(minute);
   record->tm_min = minute.empty() ? 0 : translateNum(minute);
   bool dayPartSeen = false;
-  if (number <= 12 && !isFrench)
-    dayPartSeen =
-        readListDayPart(record.get(), number, dayPart, title, vocabulary);
+  if (number <= 12 && !isFrench) dayPartSeen = readListDayPart(record.get(), number, dayPart, title, vocabulary);
   // A bare hour below 12 is left as written; the driver settles it.
-  const bool settled =
-      isFrench || (number < 12 && dayPart.empty() && !dayPartSeen);
-  if (!settled && !hasDate && record->tm_hour != 0 &&
-      std::mktime(record.get()) < today()) {
+  const bool settled = isFrench || (number < 12 && dayPart.empty() && !dayPartSeen);
+  if (!settled && !hasDate && record->tm_hour != 0 && std::mktime(record.get()) < today()) {
     record->tm_mday += 1;
   }
   parserDueDate.recognizeStrings.push_back(match[0].str());
@@ -160,4 +132,4 @@ OptTM NLPNativeTitleParser::matchEnListTime(const std::wstring &title,
   return record;
 }
 
-} // namespace nlpdate
+}  // namespace nlpdate

@@ -24,10 +24,8 @@ const wchar_t *const kTimeDay =
     LR"~(((2[0-4]|[0-1]?[0-9])[«TIME_DIVIDER»]([0-5]?[0-9]|60))\s*,?\s*(«DAY_END»)?\s*(«plainMonths»)\s*(3[0-1]|[0-2]?[0-9]))~";
 const wchar_t *const kMain =
     LR"~(()(«addWordBorderInStartAndEnd(ON_BY)»)?\s*((\s?(3[0-1]|[0-2]?[0-9]|«MIDDLE»))(«DAY_END»)?\s*(?:«OF»)?\s*)?(«mainMonths»)(\s?(3[0-1]|[0-2]?[0-9]))?(«DAY_END»)?,?( *(\d{4}))?)~";
-const wchar_t *const kOrdinalDay =
-    LR"~((\(|\b)(«ON_BY»)?\s*((\s?(3[0-1]|[0-2]?[0-9]))(«DAY_END»)))~";
-const wchar_t *const kDayFirst =
-    LR"~(\s?(3[0-1]|[0-2]?[0-9])\s*(«decemberFirstMonths»)\s*,?\s*(\d{4})?)~";
+const wchar_t *const kOrdinalDay = LR"~((\(|\b)(«ON_BY»)?\s*((\s?(3[0-1]|[0-2]?[0-9]))(«DAY_END»)))~";
+const wchar_t *const kDayFirst = LR"~(\s?(3[0-1]|[0-2]?[0-9])\s*(«decemberFirstMonths»)\s*,?\s*(\d{4})?)~";
 const wchar_t *const kStartWithDay =
     LR"~(()(«ON_BY»)?\s*((\s?(3[0-1]|[0-2]?[0-9]|«MIDDLE»))(«DAY_END»)?\s*(?:«OF»)?\s*)?(«plainMonths»)(())?()?,?( *(\d+))?(a|p)?)~";
 const wchar_t *const kStartWithMonth =
@@ -52,18 +50,14 @@ PatternPieces monthWords(Vocabulary &vocabulary) {
 // Russian and Korean month words take no border at their end.
 std::wstring borderedMonthList(const wchar_t *list, Vocabulary &vocabulary) {
   std::wstring text = fillPieces(list, monthWords(vocabulary));
-  bool plain = isVocabularyLanguage(vocabulary, L"ru") ||
-               isVocabularyLanguage(vocabulary, L"ko");
+  bool plain = isVocabularyLanguage(vocabulary, L"ru") || isVocabularyLanguage(vocabulary, L"ko");
   return plain ? text : addWordBorderInEndWithOutReg(text);
 }
 
 std::wstring aprilWord(Vocabulary &vocabulary) {
-  if (isVocabularyLanguage(vocabulary, L"fr"))
-    return kFrenchApril;
-  if (isVocabularyLanguage(vocabulary, L"en"))
-    return kEnglishApril;
-  if (isVocabularyLanguage(vocabulary, L"ru"))
-    return addWordBorderInEnd(vocabulary[APRIL]);
+  if (isVocabularyLanguage(vocabulary, L"fr")) return kFrenchApril;
+  if (isVocabularyLanguage(vocabulary, L"en")) return kEnglishApril;
+  if (isVocabularyLanguage(vocabulary, L"ru")) return addWordBorderInEnd(vocabulary[APRIL]);
   return addWordBorderInStartAndEnd(vocabulary[APRIL], false);
 }
 
@@ -71,17 +65,14 @@ std::wstring mainMonths(Vocabulary &vocabulary) {
   bool isFr = isVocabularyLanguage(vocabulary, L"fr");
   PatternPieces pieces = monthWords(vocabulary);
   pieces[L"aprilWord"] = aprilWord(vocabulary);
-  pieces[L"mayWord"] =
-      isFr ? addWordBorderInStartAndEnd(vocabulary[MAY]) : vocabulary[MAY];
-  pieces[L"addWordBorderInStartAndEnd(NOVEMBER)"] =
-      addWordBorderInStartAndEnd(vocabulary[NOVEMBER]);
+  pieces[L"mayWord"] = isFr ? addWordBorderInStartAndEnd(vocabulary[MAY]) : vocabulary[MAY];
+  pieces[L"addWordBorderInStartAndEnd(NOVEMBER)"] = addWordBorderInStartAndEnd(vocabulary[NOVEMBER]);
   std::wstring text = fillPieces(kMainMonths, pieces);
-  bool plain = isVocabularyLanguage(vocabulary, L"ru") ||
-               isVocabularyLanguage(vocabulary, L"ko") || isFr;
+  bool plain = isVocabularyLanguage(vocabulary, L"ru") || isVocabularyLanguage(vocabulary, L"ko") || isFr;
   return plain ? text : addWordBorderInEndWithOutReg(text);
 }
 
-} // namespace
+}  // namespace
 
 bool isVocabularyLanguage(Vocabulary &vocabulary, const wchar_t *code) {
   return vocabulary[LOCAL].find(code) != std::wstring::npos;
@@ -89,8 +80,7 @@ bool isVocabularyLanguage(Vocabulary &vocabulary, const wchar_t *code) {
 
 const std::wstring &getEnMonthRecognition(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
-    return fillPieces(kMain, {{L"addWordBorderInStartAndEnd(ON_BY)",
-                               addWordBorderInStartAndEnd(vocabulary[ON_BY])},
+    return fillPieces(kMain, {{L"addWordBorderInStartAndEnd(ON_BY)", addWordBorderInStartAndEnd(vocabulary[ON_BY])},
                               {L"MIDDLE", vocabulary[MIDDLE]},
                               {L"DAY_END", vocabulary[DAY_END]},
                               {L"OF", vocabulary[OF]},
@@ -100,31 +90,26 @@ const std::wstring &getEnMonthRecognition(Vocabulary vocabulary) {
 
 const std::wstring &getEnMonthRecognitionStartWithMonth(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
-    return fillPieces(kStartWithMonth,
-                      {{L"OF", vocabulary[OF]},
-                       {L"decemberFirstMonths",
-                        borderedMonthList(kDecemberFirstMonths, vocabulary)},
-                       {L"DAY_END", vocabulary[DAY_END]}});
+    return fillPieces(kStartWithMonth, {{L"OF", vocabulary[OF]},
+                                        {L"decemberFirstMonths", borderedMonthList(kDecemberFirstMonths, vocabulary)},
+                                        {L"DAY_END", vocabulary[DAY_END]}});
   });
 }
 
 const std::wstring &getEnMonthRecognitionStartWithDay(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
-    return fillPieces(
-        kStartWithDay,
-        {{L"ON_BY", vocabulary[ON_BY]},
-         {L"MIDDLE", vocabulary[MIDDLE]},
-         {L"DAY_END", vocabulary[DAY_END]},
-         {L"OF", vocabulary[OF]},
-         {L"plainMonths", borderedMonthList(kPlainMonths, vocabulary)}});
+    return fillPieces(kStartWithDay, {{L"ON_BY", vocabulary[ON_BY]},
+                                      {L"MIDDLE", vocabulary[MIDDLE]},
+                                      {L"DAY_END", vocabulary[DAY_END]},
+                                      {L"OF", vocabulary[OF]},
+                                      {L"plainMonths", borderedMonthList(kPlainMonths, vocabulary)}});
   });
 }
 
 const std::wstring &getEnMonthDayTimePattern(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     return fillPieces(kDayTime, {{L"DAY_END", vocabulary[DAY_END]},
-                                 {L"plainMonths",
-                                  borderedMonthList(kPlainMonths, vocabulary)},
+                                 {L"plainMonths", borderedMonthList(kPlainMonths, vocabulary)},
                                  {L"TIME_DIVIDER", vocabulary[TIME_DIVIDER]}});
   });
 }
@@ -132,25 +117,21 @@ const std::wstring &getEnMonthDayTimePattern(Vocabulary vocabulary) {
 const std::wstring &getEnMonthTimeDayPattern(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     return fillPieces(kTimeDay, {{L"DAY_END", vocabulary[DAY_END]},
-                                 {L"plainMonths",
-                                  borderedMonthList(kPlainMonths, vocabulary)},
+                                 {L"plainMonths", borderedMonthList(kPlainMonths, vocabulary)},
                                  {L"TIME_DIVIDER", vocabulary[TIME_DIVIDER]}});
   });
 }
 
 const std::wstring &getEnMonthOrdinalDayPattern(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
-    return fillPieces(kOrdinalDay, {{L"ON_BY", vocabulary[ON_BY]},
-                                    {L"DAY_END", vocabulary[DAY_END]}});
+    return fillPieces(kOrdinalDay, {{L"ON_BY", vocabulary[ON_BY]}, {L"DAY_END", vocabulary[DAY_END]}});
   });
 }
 
 const std::wstring &getEnMonthDayFirstPattern(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
-    return fillPieces(kDayFirst,
-                      {{L"decemberFirstMonths",
-                        borderedMonthList(kDecemberFirstMonths, vocabulary)}});
+    return fillPieces(kDayFirst, {{L"decemberFirstMonths", borderedMonthList(kDecemberFirstMonths, vocabulary)}});
   });
 }
 
-} // namespace nlpdate
+}  // namespace nlpdate

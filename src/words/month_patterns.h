@@ -25,4 +25,4 @@ const std::wstring &getEnMonthDayFirstPattern(Vocabulary vocabulary);
 // Whether the vocabulary's language code holds the two letters.
 bool isVocabularyLanguage(Vocabulary &vocabulary, const wchar_t *code);
 
-} // namespace nlpdate
+}  // namespace nlpdate

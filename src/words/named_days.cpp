@@ -15,23 +15,16 @@ const std::wstring &getSpecialDayRecognition(Vocabulary vocabulary) {
     // Russian words for tomorrow are bordered at both ends.
     const bool isRussian = vocabulary[LOCAL].find(L"ru") != std::wstring::npos;
     const std::wstring tomorrowWord =
-        isRussian ? addWordBorderInStartAndEnd(vocabulary[TOMORROW])
-                  : addWordBorderInEnd(vocabulary[TOMORROW]);
-    return L"(" + addWordBorderInEnd(vocabulary[YESTERDAY]) + L"|" +
-           addWordBorderInEnd(vocabulary[TODAY]) + L"|" +
-           addWordBorderInEnd(vocabulary[DAY_AFTER_TOMORROW]) + L"|" +
-           tomorrowWord + L"|" + addWordBorderInEnd(vocabulary[TONIGHT]) +
-           L")(\\s)*";
+        isRussian ? addWordBorderInStartAndEnd(vocabulary[TOMORROW]) : addWordBorderInEnd(vocabulary[TOMORROW]);
+    return L"(" + addWordBorderInEnd(vocabulary[YESTERDAY]) + L"|" + addWordBorderInEnd(vocabulary[TODAY]) + L"|" +
+           addWordBorderInEnd(vocabulary[DAY_AFTER_TOMORROW]) + L"|" + tomorrowWord + L"|" +
+           addWordBorderInEnd(vocabulary[TONIGHT]) + L")(\\s)*";
   });
 }
 
-std::optional<NLPRecognizeDate>
-NLPNativeTitleParser::matchEnSpecialDate(std::wstring title,
-                                         Vocabulary vocabulary) {
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnSpecialDate(std::wstring title, Vocabulary vocabulary) {
   PatternMatch match;
-  if (!compilePattern(getSpecialDayRecognition(vocabulary),
-                      PatternCase::Insensitive)
-           .search(title, match)) {
+  if (!compilePattern(getSpecialDayRecognition(vocabulary), PatternCase::Insensitive).search(title, match)) {
     return std::nullopt;
   }
   TMPtr record = getDefaultTM();
@@ -48,10 +41,9 @@ NLPNativeTitleParser::matchEnSpecialDate(std::wstring title,
     record->tm_mday += 1;
   } else if (containStr(word, vocabulary[TONIGHT])) {
     record->tm_hour = 21;
-    parserDueDate.reminder.push_back(ON_TIME); // tonight carries a time of day
+    parserDueDate.reminder.push_back(ON_TIME);  // tonight carries a time of day
   }
-  return NLPRecognizeDate(match[0].str(), static_cast<long>(match.position(0)),
-                          record);
+  return NLPRecognizeDate(match[0].str(), static_cast<long>(match.position(0)), record);
 }
 
-} // namespace nlpdate
+}  // namespace nlpdate

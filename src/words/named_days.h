@@ -11,4 +11,4 @@ namespace nlpdate {
 // Two groups: the named day and its trailing blanks.
 const std::wstring &getSpecialDayRecognition(Vocabulary vocabulary);
 
-} // namespace nlpdate
+}  // namespace nlpdate

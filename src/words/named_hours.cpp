@@ -16,16 +16,13 @@ namespace {
 const std::wstring &morningWords(Vocabulary &vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     const std::wstring value = vocabulary[MORNING];
-    if (value.empty())
-      return value;
-    const bool isPortuguese =
-        vocabulary[LOCAL].find(L"pt") != std::wstring::npos;
+    if (value.empty()) return value;
+    const bool isPortuguese = vocabulary[LOCAL].find(L"pt") != std::wstring::npos;
     std::wstring words;
     size_t begin = 0;
     while (true) {
       size_t bar = value.find(L'|', begin);
-      const std::wstring word = value.substr(
-          begin, bar == std::wstring::npos ? std::wstring::npos : bar - begin);
+      const std::wstring word = value.substr(begin, bar == std::wstring::npos ? std::wstring::npos : bar - begin);
       if (isAsciiCode(word)) {
         words += L"\\b" + word + L"\\b|";
       } else if (isPortuguese) {
@@ -33,8 +30,7 @@ const std::wstring &morningWords(Vocabulary &vocabulary) {
       } else {
         words += word + L"|";
       }
-      if (bar == std::wstring::npos)
-        break;
+      if (bar == std::wstring::npos) break;
       begin = bar + 1;
     }
     words.pop_back();
@@ -49,28 +45,23 @@ struct DayPart {
   int limit;
 };
 
-} // namespace
+}  // namespace
 
-std::map<std::wstring, std::pair<int, int>>
-NLPNativeTitleParser::getEnSpecialHourMap(Vocabulary vocabulary) {
+std::map<std::wstring, std::pair<int, int>> NLPNativeTitleParser::getEnSpecialHourMap(Vocabulary vocabulary) {
   const std::wstring at = L"(" + vocabulary[AT] + L")?\\s*";
   std::map<std::wstring, std::pair<int, int>> hours;
   hours[at + addWordBorderInStartAndEnd(vocabulary[NOON])] = {12, 0};
   hours[at + addWordBorderInStartAndEnd(vocabulary[SUPPER])] = {18, 0};
   hours[at + addWordBorderInStartAndEnd(vocabulary[BRUNCH])] = {10, 0};
-  hours[at + addWordBorderInStartAndEnd(vocabulary[TONIGHT])] = {nightHour,
-                                                                 nightMinute};
+  hours[at + addWordBorderInStartAndEnd(vocabulary[TONIGHT])] = {nightHour, nightMinute};
   hours[at + addWordBorderInStartAndEnd(vocabulary[MIDNIGHT])] = {0, 0};
   return hours;
 }
 
-OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title,
-                                               std::tm *calendar,
-                                               Vocabulary vocabulary) {
+OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title, std::tm *calendar, Vocabulary vocabulary) {
   PatternMatch match;
   for (const auto &[pattern, time] : getEnSpecialHourMap(vocabulary)) {
-    if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match))
-      continue;
+    if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;
     TMPtr record = getDefaultTM();
     copyTM(calendar, record.get());
     setTMToDefaultTime(record.get());
@@ -84,24 +75,17 @@ OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title,
   return matchEnDayPart(title, calendar, vocabulary);
 }
 
-OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring &title,
-                                           std::tm *calendar,
-                                           Vocabulary vocabulary) {
+OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring &title, std::tm *calendar, Vocabulary vocabulary) {
   const std::wstring at = L"(" + vocabulary[AT] + L")?\\s*";
   const DayPart parts[] = {
       {at + morningWords(vocabulary), morningHour, morningMinute, 12},
-      {at + addWordBorderInStartAndEnd(vocabulary[AFTERNOON]), afternoonHour,
-       afternoonMinute, 17},
-      {at + addWordBorderInStartAndEnd(vocabulary[EVENING]), eveningHour,
-       eveningMinute, 19},
-      {at + addWordBorderInStartAndEnd(vocabulary[NIGHT]), nightHour,
-       nightMinute, 24},
+      {at + addWordBorderInStartAndEnd(vocabulary[AFTERNOON]), afternoonHour, afternoonMinute, 17},
+      {at + addWordBorderInStartAndEnd(vocabulary[EVENING]), eveningHour, eveningMinute, 19},
+      {at + addWordBorderInStartAndEnd(vocabulary[NIGHT]), nightHour, nightMinute, 24},
   };
   PatternMatch match;
   for (const DayPart &part : parts) {
-    if (!compilePattern(part.pattern, PatternCase::Insensitive)
-             .search(title, match))
-      continue;
+    if (!compilePattern(part.pattern, PatternCase::Insensitive).search(title, match)) continue;
     TMPtr record = getDefaultTM();
     copyTM(calendar, record.get());
     setTMToDefaultTime(record.get());
@@ -110,11 +94,9 @@ OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring &title,
     // Step a whole hour at a time to the first one ahead of now, up to the
     // limit.
     for (int h = part.hour; h < part.limit; h = record->tm_hour) {
-      if (!isBeforeNow(record.get()))
-        break;
+      if (!isBeforeNow(record.get())) break;
       record->tm_hour += 1;
-      if (!isBeforeNow(record.get()))
-        break;
+      if (!isBeforeNow(record.get())) break;
     }
     if (isBeforeNow(record.get())) {
       // The day part is over today, so it means tomorrow.
@@ -128,4 +110,4 @@ OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring &title,
   return std::nullopt;
 }
 
-} // namespace nlpdate
+}  // namespace nlpdate

@@ -16,8 +16,7 @@ namespace {
 // A point divides only where a four-digit year makes the date certain.
 const wchar_t *const kDayMonthFullYear =
     LR"~((\(|\b)(«ON_BY»)?\s*(3[0-1]|[0-2]?[0-9])([\.«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])([\.«DATE_DIVIDER»])?(\d{4})(\)|\b)(\s)*)~";
-const wchar_t *const kRelativeMonthYear =
-    LR"~((«NEXT»\s+(«MONTH»|«YEAR»))|(«END_OF_MONTH»))~";
+const wchar_t *const kRelativeMonthYear = LR"~((«NEXT»\s+(«MONTH»|«YEAR»))|(«END_OF_MONTH»))~";
 const wchar_t *const kFullYearFirst =
     LR"~((\(|\b)(«ON_BY»)?\s*(\d{4})([\.«DATE_DIVIDER»])?(1[0-2]|0?[1-9])([\.«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])(\)|\b)(\s)*)~";
 const wchar_t *const kDayMonthShortYear =
@@ -59,12 +58,9 @@ std::vector<NumericStep> numericSteps(bool monthFirst) {
 
 const PatternPieces &numericPieces(Vocabulary &vocabulary) {
   return keptFor(vocabulary, [&]() -> PatternPieces {
-    return {{L"ON_BY", vocabulary[ON_BY]},
-            {L"DATE_DIVIDER", vocabulary[DATE_DIVIDER]},
-            {L"NEXT", vocabulary[NEXT]},
-            {L"MONTH", vocabulary[MONTH]},
-            {L"YEAR", vocabulary[YEAR]},
-            {L"END_OF_MONTH", vocabulary[END_OF_MONTH]}};
+    return {{L"ON_BY", vocabulary[ON_BY]}, {L"DATE_DIVIDER", vocabulary[DATE_DIVIDER]},
+            {L"NEXT", vocabulary[NEXT]},   {L"MONTH", vocabulary[MONTH]},
+            {L"YEAR", vocabulary[YEAR]},   {L"END_OF_MONTH", vocabulary[END_OF_MONTH]}};
   });
 }
 
@@ -72,23 +68,19 @@ const PatternPieces &numericPieces(Vocabulary &vocabulary) {
 // means next year. In a bracketed date with no year the year group holds the
 // closing ")", which is read as a year all the same, as the rule has always
 // done.
-void applyYear(NLPNativeTitleParser &parser, std::tm *record,
-               std::wstring yearText, long todaySeconds) {
+void applyYear(NLPNativeTitleParser &parser, std::tm *record, std::wstring yearText, long todaySeconds) {
   trim(yearText);
   if (!yearText.empty()) {
-    if (yearText.size() == 2)
-      yearText = L"20" + yearText;
+    if (yearText.size() == 2) yearText = L"20" + yearText;
     record->tm_year = parser.translateNum(yearText) - 1900;
     return;
   }
-  if (secondsOf(timePointFromTM(*record)) < todaySeconds)
-    record->tm_year += 1;
+  if (secondsOf(timePointFromTM(*record)) < todaySeconds) record->tm_year += 1;
 }
 
 // Fields go in as read: a month of 13 or a day of 31 in a short month is
 // carried over by the later normalising.
-TMPtr readFields(NLPNativeTitleParser &parser, const PatternMatch &match,
-                 const DateFields &fields, long todaySeconds) {
+TMPtr readFields(NLPNativeTitleParser &parser, const PatternMatch &match, const DateFields &fields, long todaySeconds) {
   TMPtr record = parser.getDefaultTM();
   parser.setTMToDefaultTime(record.get());
   std::wstring monthText = match[fields.month].str();
@@ -101,8 +93,7 @@ TMPtr readFields(NLPNativeTitleParser &parser, const PatternMatch &match,
   return record;
 }
 
-TMPtr readRelative(NLPNativeTitleParser &parser, const PatternMatch &match,
-                   Vocabulary &vocabulary) {
+TMPtr readRelative(NLPNativeTitleParser &parser, const PatternMatch &match, Vocabulary &vocabulary) {
   TMPtr record = parser.getDefaultTM();
   parser.setTMToDefaultTime(record.get());
   std::wstring unit = toLowerCase(match[2].str());
@@ -115,31 +106,26 @@ TMPtr readRelative(NLPNativeTitleParser &parser, const PatternMatch &match,
     record->tm_mday = 1;
   } else if (!match[3].str().empty()) {
     record->tm_mon += 1;
-    record->tm_mday = 0; // day 0 of next month: the last day of this one
+    record->tm_mday = 0;  // day 0 of next month: the last day of this one
   }
   mkTM(record.get());
   return record;
 }
 
-} // namespace
+}  // namespace
 
-std::optional<NLPRecognizeDate>
-NLPNativeTitleParser::matchEnDate(std::wstring title, Vocabulary vocabulary) {
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDate(std::wstring title, Vocabulary vocabulary) {
   long todaySeconds = today();
   PatternPieces pieces = numericPieces(vocabulary);
   for (const NumericStep &step : numericSteps(isUsOrUkDateFormat)) {
-    Pattern pattern = compilePattern(fillPieces(step.pattern, pieces),
-                                     PatternCase::Insensitive);
+    Pattern pattern = compilePattern(fillPieces(step.pattern, pieces), PatternCase::Insensitive);
     PatternMatch match;
-    if (!pattern.search(title, match))
-      continue;
-    TMPtr record = step.relative
-                       ? readRelative(*this, match, vocabulary)
-                       : readFields(*this, match, step.fields, todaySeconds);
-    return NLPRecognizeDate(match[0].str(),
-                            static_cast<long>(match.position(0)), record);
+    if (!pattern.search(title, match)) continue;
+    TMPtr record =
+        step.relative ? readRelative(*this, match, vocabulary) : readFields(*this, match, step.fields, todaySeconds);
+    return NLPRecognizeDate(match[0].str(), static_cast<long>(match.position(0)), record);
   }
   return std::nullopt;
 }
 
-} // namespace nlpdate
+}  // namespace nlpdate

@@ -15,8 +15,7 @@ namespace {
 
 const std::wstring &allUnits(Vocabulary &v) {
   return keptFor(v, [&]() -> std::wstring {
-    return v[MINUTE] + L"|" + v[HOUR] + L"|" + v[DAY] + L"|" + v[WEEK] + L"|" +
-           v[MONTH] + L"|" + v[YEAR];
+    return v[MINUTE] + L"|" + v[HOUR] + L"|" + v[DAY] + L"|" + v[WEEK] + L"|" + v[MONTH] + L"|" + v[YEAR];
   });
 }
 
@@ -26,51 +25,41 @@ struct OffsetPattern {
   int countGroup;
   int secondGroup;
   int unitGroup;
-  bool wordNumbers; // counts may be number words, read with matchEnglishNum
+  bool wordNumbers;  // counts may be number words, read with matchEnglishNum
 };
 
 const std::vector<OffsetPattern> &offsetPatterns(Vocabulary &v) {
   return keptFor(v, [&]() -> std::vector<OffsetPattern> {
     const std::wstring words = numberWordAlternation(v);
     return {
-        {L"(" + v[AFTER] + L")\\s+(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] +
-             L")\\s*(" + v[HOUR] + L")\\s+(\\d{1,3}|" + v[A] + L")\\s+(" +
-             v[MINUTE] + L")",
+        {L"(" + v[AFTER] + L")\\s+(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] + L")\\s*(" + v[HOUR] + L")\\s+(\\d{1,3}|" +
+             v[A] + L")\\s+(" + v[MINUTE] + L")",
          2, 4, 5, false},
-        {L"(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] + L"|" + words + L")\\s*(" +
-             v[HOUR] + L")\\s+(\\d{1,3}|" + v[A] + L"|" + words + L")\\s+(" +
-             v[MINUTE] + L")\\s+(" + v[LATER] + L")",
+        {L"(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] + L"|" + words + L")\\s*(" + v[HOUR] + L")\\s+(\\d{1,3}|" + v[A] +
+             L"|" + words + L")\\s+(" + v[MINUTE] + L")\\s+(" + v[LATER] + L")",
          1, 3, 4, true},
-        {L"(" + v[AFTER] + L")\\s+(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] +
-             L")\\s+(" + allUnits(v) + L")",
-         2, 0, 3, false},
-        {L"(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] + L"|" + words + L")\\s*(" +
-             allUnits(v) + L")\\s+(" + v[LATER] + L")",
+        {L"(" + v[AFTER] + L")\\s+(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] + L")\\s+(" + allUnits(v) + L")", 2, 0, 3,
+         false},
+        {L"(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] + L"|" + words + L")\\s*(" + allUnits(v) + L")\\s+(" + v[LATER] + L")",
          1, 0, 2, true},
     };
   });
 }
 
-} // namespace
+}  // namespace
 
-std::optional<NLPRecognizeDate>
-NLPNativeTitleParser::matchEnAfterTime(std::wstring title,
-                                       Vocabulary vocabulary) {
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnAfterTime(std::wstring title, Vocabulary vocabulary) {
   for (const OffsetPattern &pattern : offsetPatterns(vocabulary)) {
     PatternMatch match;
-    if (!compilePattern(pattern.text, PatternCase::Insensitive)
-             .search(title, match))
-      continue;
+    if (!compilePattern(pattern.text, PatternCase::Insensitive).search(title, match)) continue;
 
     std::optional<NLPMorvaneDuration> offset;
     if (pattern.secondGroup == 0) {
-      offset = getDuration(match[pattern.countGroup].str(),
-                           match[pattern.unitGroup].str(), true, vocabulary);
+      offset = getDuration(match[pattern.countGroup].str(), match[pattern.unitGroup].str(), true, vocabulary);
     } else {
       // Hours and minutes: the whole amount goes in minutes.
       auto readNumber = [&](const std::wstring &text) {
-        return pattern.wordNumbers ? matchEnglishNum(text, vocabulary)
-                                   : translateNum(text);
+        return pattern.wordNumbers ? matchEnglishNum(text, vocabulary) : translateNum(text);
       };
       std::wstring first = match[pattern.countGroup].str();
       std::wstring second = match[pattern.secondGroup].str();
@@ -87,20 +76,16 @@ NLPNativeTitleParser::matchEnAfterTime(std::wstring title,
       } else if (!second.empty()) {
         total += readNumber(second);
       }
-      offset =
-          getDuration(total, match[pattern.unitGroup].str(), true, vocabulary);
+      offset = getDuration(total, match[pattern.unitGroup].str(), true, vocabulary);
     }
-    if (!offset)
-      return std::nullopt;
+    if (!offset) return std::nullopt;
 
-    NLPRecognizeDate result(match[0].str(),
-                            static_cast<long>(match.position(0)), offset);
+    NLPRecognizeDate result(match[0].str(), static_cast<long>(match.position(0)), offset);
     // The start is made here, whatever the driver later prefers. Days and
     // larger units wait for the parse flow, which adds them from the pending
     // offset.
     TMPtr record = getDefaultTM();
-    if (offset->getHours() == 0 && offset->getMinutes() == 0 &&
-        offset->getSeconds() == 0) {
+    if (offset->getHours() == 0 && offset->getMinutes() == 0 && offset->getSeconds() == 0) {
       record->tm_hour = 0;
       record->tm_min = 0;
       record->tm_sec = 0;
@@ -118,4 +103,4 @@ NLPNativeTitleParser::matchEnAfterTime(std::wstring title,
   return std::nullopt;
 }
 
-} // namespace nlpdate
+}  // namespace nlpdate

@@ -8,16 +8,14 @@ namespace nlpdate {
 
 namespace {
 
-const wchar_t *const kWeekdays =
-    LR"~(«MONDAY»|«TUESDAY»|«WEDNESDAY»|«THURSDAY»|«FRIDAY»|«SATURDAY»|«SUNDAY»)~";
+const wchar_t *const kWeekdays = LR"~(«MONDAY»|«TUESDAY»|«WEDNESDAY»|«THURSDAY»|«FRIDAY»|«SATURDAY»|«SUNDAY»)~";
 const wchar_t *const kMonths =
     LR"~(«JANUARY»|«FEBRUARY»|«MARCH»|«APRIL»|«MAY»|«JUNE»|«JULY»|«AUGUST»|«SEPTEMBER»|«OCTOBER»|«NOVEMBER»|«DECEMBER»)~";
 const wchar_t *const kDateName = LR"~(((«TODAY»|«TOMORROW»)|(«WEEKDAYS»)))~";
 const wchar_t *const kDateDay = LR"~(((«DAY_OF_MONTH_DIGITAL»)(«DAY_END»)?))~";
 const wchar_t *const kDateMonth = LR"~((«MONTHS»))~";
 // Every part optional, so that day-month, month-day and a bare weekday all fit.
-const wchar_t *const kDate =
-    LR"~(«DATE_DAY»?\s*«DATE_MONTH»?\s*«DATE_DAY»?\s*«DATE_NAME»?\s*)~";
+const wchar_t *const kDate = LR"~(«DATE_DAY»?\s*«DATE_MONTH»?\s*«DATE_DAY»?\s*«DATE_NAME»?\s*)~";
 
 const wchar_t *const kFrom =
     LR"~((«EVERY»)\s+(((«DAY»|«MORNING»|«AFTERNOON»|«NOON»|«EVENING»|«NIGHT»|«WEEK»|«MONTH»|«YEAR»)\s+«FROM»\s+«DATE»\s*(«DURATION_FLAG»)?\s?«DATE»)))~";
@@ -90,24 +88,18 @@ const PatternPieces &untilPieces(Vocabulary &vocabulary) {
   });
 }
 
-} // namespace
+}  // namespace
 
 const std::wstring &repeatFromPattern(Vocabulary &vocabulary) {
-  return keptFor(vocabulary, [&]() -> std::wstring {
-    return fillPieces(kFrom, untilPieces(vocabulary));
-  });
+  return keptFor(vocabulary, [&]() -> std::wstring { return fillPieces(kFrom, untilPieces(vocabulary)); });
 }
 
 const std::wstring &repeatForPattern(Vocabulary &vocabulary) {
-  return keptFor(vocabulary, [&]() -> std::wstring {
-    return fillPieces(kFor, untilPieces(vocabulary));
-  });
+  return keptFor(vocabulary, [&]() -> std::wstring { return fillPieces(kFor, untilPieces(vocabulary)); });
 }
 
 const std::wstring &repeatStartEndPattern(Vocabulary &vocabulary) {
-  return keptFor(vocabulary, [&]() -> std::wstring {
-    return fillPieces(kStartEnd, untilPieces(vocabulary));
-  });
+  return keptFor(vocabulary, [&]() -> std::wstring { return fillPieces(kStartEnd, untilPieces(vocabulary)); });
 }
 
-} // namespace nlpdate
+}  // namespace nlpdate

@@ -18,4 +18,4 @@ const std::wstring &repeatForPattern(Vocabulary &vocabulary);
 // length part 34 (36, 37).
 const std::wstring &repeatStartEndPattern(Vocabulary &vocabulary);
 
-} // namespace nlpdate
+}  // namespace nlpdate

@@ -25,26 +25,136 @@ struct NamedKey {
 // All 127 key constants with their identifiers, in definition order. Built at
 // call time: the constants live in another translation unit.
 std::vector<NamedKey> allKeys() {
-#define K(key) NamedKey{key, #key}
+#define K(key) \
+  NamedKey { key, #key }
   return {
-      K(LOCAL), K(TWENTY_FOUR_HOUR_FLAG), K(TWO_DIGITAL), K(FOUR_YEAR_DIGITAL),
-      K(FOUR_OR_TWO_YEAR_DIGITAL), K(THREE_DIGITAL), K(MINUTES_DIGITAL), K(HOUR_OF_DAY_DIGITAL),
-      K(DAY_OF_MONTH_DIGITAL), K(MONTH_OF_YEAR_DIGITAL), K(DAY_END), K(REMIND_ME), K(MORNING),
-      K(AFTERNOON), K(EVENING), K(NIGHT), K(NOON), K(BREAKFAST), K(LUNCH), K(SUPPER), K(BRUNCH),
-      K(TONIGHT), K(MIDNIGHT), K(MINUTE), K(HOUR), K(DAY), K(WEEK), K(MONTH), K(YEAR), K(DAILY),
-      K(EVERYDAY), K(WEEKLY), K(MONTHLY), K(YEARLY), K(YESTERDAY), K(TODAY), K(TOMORROW),
-      K(DAY_AFTER_TOMORROW), K(MONDAY), K(TUESDAY), K(WEDNESDAY), K(THURSDAY), K(FRIDAY),
-      K(SATURDAY), K(SUNDAY), K(WEEKEND), K(WEEKDAY), K(WORKDAY), K(WORKING), K(JANUARY),
-      K(FEBRUARY), K(MARCH), K(APRIL), K(MAY), K(JUNE), K(JULY), K(AUGUST), K(SEPTEMBER),
-      K(OCTOBER), K(NOVEMBER), K(DECEMBER), K(FIRST), K(SECOND), K(THIRD), K(FOURTH), K(FIFTH),
-      K(LAST), K(LAST_DAY_OF), K(DAY_OF), K(AT_THE_BEGINNING_OF), K(ONE), K(TWO), K(THREE),
-      K(FOUR), K(FIVE), K(SIX), K(SEVEN), K(EIGHT), K(NINE), K(TEN), K(ELEVEN), K(TWELVE),
-      K(THIRTEEN), K(FOURTEEN), K(FIFTEEN), K(SIXTEEN), K(SEVENTEEN), K(EIGHTEEN), K(NINETEEN),
-      K(TWENTY), K(TWENTY_ONE), K(TWENTY_TWO), K(TWENTY_THREE), K(TWENTY_FOUR), K(EVERY), K(OF),
-      K(IN_WORD), K(AFTER), K(IN_WEEKS), K(IN_MONTHS), K(IN_YEARS), K(AM), K(PM), K(AM_PM),
-      K(DATE_DIVIDER), K(TIME_DIVIDER), K(ON_BY), K(MIDDLE), K(ON_AT), K(ON), K(AT), K(HALF_A),
-      K(A), K(LATER), K(EARLY), K(NEXT), K(THIS), K(CLOCK), K(DURATION_FLAG), K(REMINDER),
-      K(UNTIL), K(START), K(END), K(END_OF_MONTH), K(FROM), K(FOR), K(AND),
+      K(LOCAL),
+      K(TWENTY_FOUR_HOUR_FLAG),
+      K(TWO_DIGITAL),
+      K(FOUR_YEAR_DIGITAL),
+      K(FOUR_OR_TWO_YEAR_DIGITAL),
+      K(THREE_DIGITAL),
+      K(MINUTES_DIGITAL),
+      K(HOUR_OF_DAY_DIGITAL),
+      K(DAY_OF_MONTH_DIGITAL),
+      K(MONTH_OF_YEAR_DIGITAL),
+      K(DAY_END),
+      K(REMIND_ME),
+      K(MORNING),
+      K(AFTERNOON),
+      K(EVENING),
+      K(NIGHT),
+      K(NOON),
+      K(BREAKFAST),
+      K(LUNCH),
+      K(SUPPER),
+      K(BRUNCH),
+      K(TONIGHT),
+      K(MIDNIGHT),
+      K(MINUTE),
+      K(HOUR),
+      K(DAY),
+      K(WEEK),
+      K(MONTH),
+      K(YEAR),
+      K(DAILY),
+      K(EVERYDAY),
+      K(WEEKLY),
+      K(MONTHLY),
+      K(YEARLY),
+      K(YESTERDAY),
+      K(TODAY),
+      K(TOMORROW),
+      K(DAY_AFTER_TOMORROW),
+      K(MONDAY),
+      K(TUESDAY),
+      K(WEDNESDAY),
+      K(THURSDAY),
+      K(FRIDAY),
+      K(SATURDAY),
+      K(SUNDAY),
+      K(WEEKEND),
+      K(WEEKDAY),
+      K(WORKDAY),
+      K(WORKING),
+      K(JANUARY),
+      K(FEBRUARY),
+      K(MARCH),
+      K(APRIL),
+      K(MAY),
+      K(JUNE),
+      K(JULY),
+      K(AUGUST),
+      K(SEPTEMBER),
+      K(OCTOBER),
+      K(NOVEMBER),
+      K(DECEMBER),
+      K(FIRST),
+      K(SECOND),
+      K(THIRD),
+      K(FOURTH),
+      K(FIFTH),
+      K(LAST),
+      K(LAST_DAY_OF),
+      K(DAY_OF),
+      K(AT_THE_BEGINNING_OF),
+      K(ONE),
+      K(TWO),
+      K(THREE),
+      K(FOUR),
+      K(FIVE),
+      K(SIX),
+      K(SEVEN),
+      K(EIGHT),
+      K(NINE),
+      K(TEN),
+      K(ELEVEN),
+      K(TWELVE),
+      K(THIRTEEN),
+      K(FOURTEEN),
+      K(FIFTEEN),
+      K(SIXTEEN),
+      K(SEVENTEEN),
+      K(EIGHTEEN),
+      K(NINETEEN),
+      K(TWENTY),
+      K(TWENTY_ONE),
+      K(TWENTY_TWO),
+      K(TWENTY_THREE),
+      K(TWENTY_FOUR),
+      K(EVERY),
+      K(OF),
+      K(IN_WORD),
+      K(AFTER),
+      K(IN_WEEKS),
+      K(IN_MONTHS),
+      K(IN_YEARS),
+      K(AM),
+      K(PM),
+      K(AM_PM),
+      K(DATE_DIVIDER),
+      K(TIME_DIVIDER),
+      K(ON_BY),
+      K(MIDDLE),
+      K(ON_AT),
+      K(ON),
+      K(AT),
+      K(HALF_A),
+      K(A),
+      K(LATER),
+      K(EARLY),
+      K(NEXT),
+      K(THIS),
+      K(CLOCK),
+      K(DURATION_FLAG),
+      K(REMINDER),
+      K(UNTIL),
+      K(START),
+      K(END),
+      K(END_OF_MONTH),
+      K(FROM),
+      K(FOR),
+      K(AND),
   };
 #undef K
 }
@@ -167,7 +277,8 @@ TEST_F(VocabularyTables, EveryMapHasAllKeysButTheThreeInKeys) {
   for (const auto& code : languages()) {
     const Vocabulary vocabulary = of(code);
     for (const auto& key : allKeys()) {
-      EXPECT_EQ(vocabulary.count(key.text), neverInAMap(key.text) ? 0u : 1u) << testing::narrow(code) << " " << key.name;
+      EXPECT_EQ(vocabulary.count(key.text), neverInAMap(key.text) ? 0u : 1u)
+          << testing::narrow(code) << " " << key.name;
     }
   }
 }
@@ -185,7 +296,8 @@ TEST_F(VocabularyTables, InWeeksReadsEmptyInEveryMap) {
 
 TEST_F(VocabularyTables, NoValueIsEmpty) {
   for (const auto& code : languages()) {
-    for (const auto& [key, value] : of(code)) EXPECT_FALSE(value.empty()) << testing::narrow(code) << " " << testing::narrow(key);
+    for (const auto& [key, value] : of(code))
+      EXPECT_FALSE(value.empty()) << testing::narrow(code) << " " << testing::narrow(key);
   }
 }
 
@@ -204,7 +316,8 @@ TEST_F(VocabularyTables, SharedValuesAreTheSameInAllMaps) {
   };
   for (const auto& code : languages()) {
     Vocabulary vocabulary = of(code);
-    for (const auto& [key, value] : shared) EXPECT_EQ(vocabulary[key], value) << testing::narrow(code) << " " << testing::narrow(key);
+    for (const auto& [key, value] : shared)
+      EXPECT_EQ(vocabulary[key], value) << testing::narrow(code) << " " << testing::narrow(key);
   }
 }
 
@@ -216,12 +329,8 @@ TEST_F(VocabularyTables, EveryValueMatchesItsHash) {
     std::size_t units;
   };
   const std::vector<Expected> expected{
-      {L"en", 0xe50cf30e6e3a41adull, 1310},
-      {L"ja", 0xcfbd9c1e2fbad393ull, 1773},
-      {L"ru", 0xd3ba0c3d8ff55886ull, 8100},
-      {L"fr", 0x8f7f7273b4cf4d54ull, 2286},
-      {L"ko", 0x86d7be9a27ec3a8ull, 1711},
-      {L"pt", 0xcef6fba0aa747aacull, 2693},
+      {L"en", 0xe50cf30e6e3a41adull, 1310}, {L"ja", 0xcfbd9c1e2fbad393ull, 1773}, {L"ru", 0xd3ba0c3d8ff55886ull, 8100},
+      {L"fr", 0x8f7f7273b4cf4d54ull, 2286}, {L"ko", 0x86d7be9a27ec3a8ull, 1711},  {L"pt", 0xcef6fba0aa747aacull, 2693},
   };
   for (const auto& entry : expected) {
     const Vocabulary vocabulary = of(entry.code);
@@ -291,7 +400,7 @@ TEST_F(VocabularyTables, FrenchValues) {
   Vocabulary fr = of(L"fr");
   EXPECT_EQ(fr[LATER], L"plus trad|later");
   EXPECT_EQ(fr[DURATION_FLAG], L"-|~|～|jusqu'àil | -|~|～|to|until");  // blanks around " | " match
-  EXPECT_EQ(fr[TODAY], L"aujourd'hui| ajd|today|tod|td");            // leading blank in " ajd"
+  EXPECT_EQ(fr[TODAY], L"aujourd'hui| ajd|today|tod|td");               // leading blank in " ajd"
   EXPECT_EQ(fr[MORNING], L"Matin|morning");
   EXPECT_EQ(fr[SEPTEMBER], L"september|sept|\\bsep\\b");
   EXPECT_EQ(fr[UNTIL], L"jusqu'à|until|to");

@@ -18,10 +18,10 @@ struct OffsetOutcome {
   bool found = false;
   std::string text;
   long position = -1;
-  std::string trigger;     // the offset's text
+  std::string trigger;  // the offset's text
   int minutes = 0;
-  std::string startCal;    // the result's start record
-  std::string startDate;   // the parser's startDate
+  std::string startCal;   // the result's start record
+  std::string startDate;  // the parser's startDate
   Texts reminders;
 };
 
