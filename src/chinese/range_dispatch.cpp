@@ -14,7 +14,7 @@ namespace {
 
 // A range here needs a Chinese character or a digit: "to" inside "tomorrow"
 // reaches this stage too.
-bool mayHoldChineseRange(const std::wstring &title) {
+bool mayHoldChineseRange(const std::wstring& title) {
   return std::any_of(title.begin(), title.end(), [](wchar_t c) {
     return (c >= L'0' && c <= L'9') || (c >= 0x3400 && c <= 0x9fff) || (c >= 0xf900 && c <= 0xfaff);
   });
@@ -26,7 +26,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseDateDurationRecogni
                                                                                      OptTime defaultDate,
                                                                                      Vocabulary vocabulary,
                                                                                      OptTM leadDate) {
-  const Pattern &rangeWord = keptFor(vocabulary, [&vocabulary] { return compilePattern(getDurationFlag(vocabulary)); });
+  const Pattern& rangeWord = keptFor(vocabulary, [&vocabulary] { return compilePattern(getDurationFlag(vocabulary)); });
   if (!rangeWord.search(title)) return std::nullopt;
   if (!mayHoldChineseRange(title)) return std::nullopt;
   rangeVocabulary = vocabulary;

@@ -16,10 +16,10 @@ namespace {
 constexpr int kLeftGroup = 1;
 constexpr int kRightGroup = 3;
 
-const wchar_t *const kWeekdayPiece =
+const wchar_t* const kWeekdayPiece =
     L"(?:本|这|这个)?(?:下下个|下下)?(?:下个|下)?(?:星期|礼拜|周)(?:一|二|三|"
     L"四|五|六|日|天|1|2|3|4|5|6|7)";
-const wchar_t *const kFullDatePiece = L"(?:\\d{4}年\\d{1,2}月\\d{1,2}日)?";
+const wchar_t* const kFullDatePiece = L"(?:\\d{4}年\\d{1,2}月\\d{1,2}日)?";
 
 }  // namespace
 
@@ -41,15 +41,15 @@ std::wstring NLPNativeTitleParser::rangePiece(RangePiece piece) {
       return L"(?:" + nonCapturing(getAMFlag()) + L"|" + nonCapturing(getPMFlag()) + L")";
     case RangePiece::Holiday: {
       std::wstring names;
-      for (const std::wstring &name : getLunarHolidays()) names += (names.empty() ? L"" : L"|") + name;
+      for (const std::wstring& name : getLunarHolidays()) names += (names.empty() ? L"" : L"|") + name;
       return L"(?:" + names + L")";
     }
   }
   return std::wstring();
 }
 
-std::optional<NLPRecognizeDate> NLPNativeTitleParser::searchChineseRange(const std::wstring &title,
-                                                                         const Pattern &range, OptTM fallbackDay) {
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::searchChineseRange(const std::wstring& title,
+                                                                         const Pattern& range, OptTM fallbackDay) {
   PatternMatch match;
   if (!range.search(title, match)) return std::nullopt;
   return joinRangeSides(match, kLeftGroup, kRightGroup, fallbackDay);
@@ -57,12 +57,12 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::searchChineseRange(const s
 
 // "(left)range-word(right)": the sides are constant, the range word comes from
 // the vocabulary, so each recogniser keeps its pattern per vocabulary.
-Pattern NLPNativeTitleParser::rangePattern(const std::wstring &left, const std::wstring &right) {
+Pattern NLPNativeTitleParser::rangePattern(const std::wstring& left, const std::wstring& right) {
   return compilePattern(L"(" + left + L")" + getDurationFlag(rangeVocabulary) + L"(" + right + L")");
 }
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseSpecialDayDurationRecognition(std::wstring title) {
-  const Pattern &range = keptFor(rangeVocabulary, [this] {
+  const Pattern& range = keptFor(rangeVocabulary, [this] {
     const std::wstring side = L"(?:" + rangePiece(RangePiece::Named) + L"|" + rangePiece(RangePiece::Written) + L")" +
                               L"(?:" + rangePiece(RangePiece::OpenTime) + L")?";
     return rangePattern(side, side);
@@ -81,7 +81,7 @@ std::wstring NLPNativeTitleParser::rangeTimeOrPart() {
 }
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseWeekDayDurationRecognition(std::wstring title) {
-  const Pattern &range = keptFor(rangeVocabulary, [this] {
+  const Pattern& range = keptFor(rangeVocabulary, [this] {
     const std::wstring time = rangeTimeOrPart();
     const std::wstring weekday = rangePiece(RangePiece::Weekday);
     return rangePattern(kFullDatePiece + weekday + time + L"?", L"(?:" + weekday + time + L"?|" + time + L")");
@@ -90,7 +90,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseWeekDayDurationReco
 }
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseHolidayDurationRecognition(std::wstring title) {
-  const Pattern &range = keptFor(rangeVocabulary, [this] {
+  const Pattern& range = keptFor(rangeVocabulary, [this] {
     const std::wstring holiday = rangePiece(RangePiece::Holiday);
     const std::wstring open = L"(?:" + rangePiece(RangePiece::OpenTime) + L")?";
     return rangePattern(holiday + open, L"(?:" + holiday + open + L"|" + rangeTimeOrPart() + L")");
@@ -101,7 +101,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseHolidayDurationReco
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseDateDurationDateTimeRecognition(std::wstring title,
                                                                                              OptTime defaultDate,
                                                                                              OptTM leadDate) {
-  const Pattern &range = keptFor(rangeVocabulary, [this] {
+  const Pattern& range = keptFor(rangeVocabulary, [this] {
     const std::wstring day = L"(?:" + rangePiece(RangePiece::Written) + L"|" + rangePiece(RangePiece::Named) + L")?";
     const std::wstring clock = rangePiece(RangePiece::ClockTime);
     return rangePattern(day + clock, day + L"(?:" + clock + L"|" + rangePiece(RangePiece::BareTime) + L")");

@@ -34,12 +34,12 @@ struct DateTexts {
   std::wstring day;
 };
 
-DateTexts textsOf(const PatternMatch &match, int year, int yearSeparator, int month, int monthSeparator, int day) {
+DateTexts textsOf(const PatternMatch& match, int year, int yearSeparator, int month, int monthSeparator, int day) {
   return {match.str(year), match.str(yearSeparator), match.str(month), match.str(monthSeparator), match.str(day)};
 }
 
 // Two differing separators read as month and day, as in a single written date.
-void shiftMixedSeparators(DateTexts &date) {
+void shiftMixedSeparators(DateTexts& date) {
   if (date.yearSeparator == L"年" || date.monthSeparator == L"月" || date.yearSeparator.empty() ||
       date.yearSeparator == date.monthSeparator) {
     return;
@@ -51,8 +51,8 @@ void shiftMixedSeparators(DateTexts &date) {
 
 // Fills the end from the second date; a year left out moves both dates on when
 // the end is past.
-void completeEnd(NLPNativeTitleParser &parser, const DateTexts &one, const DateTexts &two, std::tm *start,
-                 const TMPtr &end) {
+void completeEnd(NLPNativeTitleParser& parser, const DateTexts& one, const DateTexts& two, std::tm* start,
+                 const TMPtr& end) {
   if (!two.year.empty() && !two.month.empty()) {
     parser.setYear(two.year, end);
     parser.setMonth(two.month, end);
@@ -81,17 +81,17 @@ void completeEnd(NLPNativeTitleParser &parser, const DateTexts &one, const DateT
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseDateDurationDateRecognition(std::wstring title) {
   // Every pairing of the written-date forms, first form outermost.
-  const std::vector<Pattern> &pairings = keptFor(rangeVocabulary, [this] {
+  const std::vector<Pattern>& pairings = keptFor(rangeVocabulary, [this] {
     const std::vector<std::wstring> dates = getChineseDatePattern();
     const std::wstring flag = getDurationFlag(rangeVocabulary);
     std::vector<Pattern> all;
-    for (const std::wstring &first : dates) {
-      for (const std::wstring &second : dates)
+    for (const std::wstring& first : dates) {
+      for (const std::wstring& second : dates)
         all.push_back(compilePattern(L"(" + first + L")" + flag + L"(" + second + L")"));
     }
     return all;
   });
-  for (const Pattern &pairing : pairings) {
+  for (const Pattern& pairing : pairings) {
     PatternMatch match;
     if (!pairing.search(title, match)) continue;
     if (auto range = readWrittenDateRange(match)) return range;
@@ -99,7 +99,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::chineseDateDurationDateRec
   return std::nullopt;
 }
 
-std::optional<NLPRecognizeDate> NLPNativeTitleParser::readWrittenDateRange(const PatternMatch &match) {
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::readWrittenDateRange(const PatternMatch& match) {
   TMPtr start = getDefaultTM();
   setTMToDefaultTime(start.get());
   TMPtr end = getDefaultTM();

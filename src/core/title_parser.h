@@ -49,18 +49,18 @@ class NLPNativeTitleParser {
 
   // ---- calendar operations
   // ----------------------------------------------------
-  std::tm *getNextDayOfWeek(std::tm *record, WeekDay day);
-  std::tm *getLastDayOfWeek(std::tm *record, WeekDay day);
+  std::tm* getNextDayOfWeek(std::tm* record, WeekDay day);
+  std::tm* getLastDayOfWeek(std::tm* record, WeekDay day);
   OptTM getNextDayOfWeek(OptTM record, WeekDay day);
   OptTM getLastDayOfWeek(OptTM record, WeekDay day);
-  void clearValueAfterDay(std::tm *record);
-  void setTMToDefaultTime(std::tm *record);
+  void clearValueAfterDay(std::tm* record);
+  void setTMToDefaultTime(std::tm* record);
   void copyDefaultTimeToCal(OptTime base, OptTM cal, int dateKind);
-  void setCalendarToDefaultTimeWithoutDefaultDate(TimePoint &point);
-  bool isBeforeNow(std::tm *record);
-  bool isBeforeToday(std::tm *record);
+  void setCalendarToDefaultTimeWithoutDefaultDate(TimePoint& point);
+  bool isBeforeNow(std::tm* record);
+  bool isBeforeToday(std::tm* record);
   bool isBeforeToday(OptTM record);
-  bool isToday(std::tm *record);
+  bool isToday(std::tm* record);
 
   // ---- parse flow
   // --------------------------------------------------------------- The JSON
@@ -69,20 +69,20 @@ class NLPNativeTitleParser {
   std::wstring parseTitle(std::wstring title, OptTime baseDate, std::wstring language);
   // The base date text read by the date pattern; an empty optional when it does
   // not read.
-  OptTime readBaseDate(const std::wstring &text);
+  OptTime readBaseDate(const std::wstring& text);
   // What follows recognition: cleans the recognised strings, applies the
   // pending offset, drops an end that is not after the start, computes
   // isAllDay, adds a reminder request, writes the JSON, clears the result.
-  std::wstring finishResult(const std::wstring &title);
+  std::wstring finishResult(const std::wstring& title);
 
   // ---- holidays and work days
   // -----------------------------------------------------
   void setHolidayDay(std::wstring text);
   void setJapanHolidayDay(std::wstring text);
-  void initHolidaySeasonMap(const std::wstring &ignored);
-  void setLunarHolidayByKey(std::map<std::wstring, int> &map, const std::wstring &key, const int *table, int count,
+  void initHolidaySeasonMap(const std::wstring& ignored);
+  void setLunarHolidayByKey(std::map<std::wstring, int>& map, const std::wstring& key, const int* table, int count,
                             int defaultValue);
-  bool isOfficialWorkDay(std::tm *record);
+  bool isOfficialWorkDay(std::tm* record);
   std::list<std::wstring> getLunarHolidays();
   // [calendar: further declarations go here]
 
@@ -95,11 +95,11 @@ class NLPNativeTitleParser {
 
   // ---- title clean-up
   // ---------------------------------------------------------------
-  std::wstring deleteStringByRegex(std::wstring &text, const std::wstring &pattern);
-  std::wstring deleteWebUrl(std::wstring &title);
-  std::wstring deleteNumber(std::wstring &title);
-  std::wstring deleteSerialNumber(std::wstring &title);
-  std::wstring deleteConfusionString(std::wstring &title);
+  std::wstring deleteStringByRegex(std::wstring& text, const std::wstring& pattern);
+  std::wstring deleteWebUrl(std::wstring& title);
+  std::wstring deleteNumber(std::wstring& title);
+  std::wstring deleteSerialNumber(std::wstring& title);
+  std::wstring deleteConfusionString(std::wstring& title);
   // [vocabulary: further declarations go here]
 
   // ---- Chinese family
@@ -113,7 +113,7 @@ class NLPNativeTitleParser {
   // Written dates.
   std::wstring getChineseMonthDayYearPattern();
   std::vector<std::wstring> getChineseDatePattern();
-  std::optional<NLPRecognizeDate> getMatchDateResult(const std::wstring &pattern, const std::wstring &title,
+  std::optional<NLPRecognizeDate> getMatchDateResult(const std::wstring& pattern, const std::wstring& title,
                                                      int yearGroup, int monthGroup, int dayGroup,
                                                      int yearSeparatorGroup, int monthSeparatorGroup);
   std::optional<NLPRecognizeDate> matchDate(std::wstring title);
@@ -131,30 +131,30 @@ class NLPNativeTitleParser {
   std::vector<std::wstring> getMatchTimePattern();
   std::vector<std::wstring> getMatchTimePatternOutClock();
   std::vector<std::wstring> getMatchTimePatternWithoutClockWord();
-  std::optional<NLPRecognizeDate> matchTime(std::optional<NLPRecognizeDate> &dateResult, std::wstring title,
+  std::optional<NLPRecognizeDate> matchTime(std::optional<NLPRecognizeDate>& dateResult, std::wstring title,
                                             OptTime defaultDate, OptTM repeatDate);
   std::optional<NLPRecognizeDate> matchSpecialTime(std::wstring title);
   // Steps of matchTime.
-  bool applyChinesePeriod(std::tm *cal, int hour, const std::wstring &working, NLPRecognizeDate &result);
-  void rollPastChineseTime(std::tm *cal, int hour, int minute, bool hasPeriod, const std::wstring &working,
-                           const NLPRecognizeDate &result);
-  std::optional<NLPRecognizeDate> matchLastChanceTime(const std::wstring &title);
+  bool applyChinesePeriod(std::tm* cal, int hour, const std::wstring& working, NLPRecognizeDate& result);
+  void rollPastChineseTime(std::tm* cal, int hour, int minute, bool hasPeriod, const std::wstring& working,
+                           const NLPRecognizeDate& result);
+  std::optional<NLPRecognizeDate> matchLastChanceTime(const std::wstring& title);
   // Steps of chineseDateRecognition.
-  bool takeChineseRange(const std::wstring &title, OptTime baseDate, Vocabulary vocabulary, OptTM repeatDate);
-  void collectChineseResult(const NLPRecognizeDate &result);
-  bool finishChineseOffset(ChineseStages &stages, std::wstring &title);
-  void letWordDatesLead(ChineseStages &stages, const std::wstring &title, Vocabulary vocabulary);
-  OptTM mergeChineseTime(ChineseStages &stages, const std::wstring &title);
-  OptTM collectChineseStage(ChineseStages &stages, OptTM cal);
-  void rollByRule(std::tm *cal);
-  void rollByTimeWord(std::tm *cal, const ChineseStages &stages);
-  bool ruleHasWeekDay(std::tm *cal);
-  void moveToRuleWeekDay(std::tm *cal);
+  bool takeChineseRange(const std::wstring& title, OptTime baseDate, Vocabulary vocabulary, OptTM repeatDate);
+  void collectChineseResult(const NLPRecognizeDate& result);
+  bool finishChineseOffset(ChineseStages& stages, std::wstring& title);
+  void letWordDatesLead(ChineseStages& stages, const std::wstring& title, Vocabulary vocabulary);
+  OptTM mergeChineseTime(ChineseStages& stages, const std::wstring& title);
+  OptTM collectChineseStage(ChineseStages& stages, OptTM cal);
+  void rollByRule(std::tm* cal);
+  void rollByTimeWord(std::tm* cal, const ChineseStages& stages);
+  bool ruleHasWeekDay(std::tm* cal);
+  void moveToRuleWeekDay(std::tm* cal);
   void markLunarYearlyRule();
   // Stages of chineseDateRecognition that the offset, lunar, holiday and repeat
   // recognisers fill in.
   NLPRepeatResult matchRepeat(std::wstring title);
-  std::optional<NLPRecognizeDate> matchAfterTime(const std::wstring &title);
+  std::optional<NLPRecognizeDate> matchAfterTime(const std::wstring& title);
   std::wstring matchAdvanceTime(std::wstring title);
   std::vector<std::wstring> getLunarPattern();
   std::optional<NLPRecognizeDate> matchLunar(std::wstring title);
@@ -162,29 +162,29 @@ class NLPNativeTitleParser {
   std::optional<NLPRecognizeDate> matchHoliday(std::wstring title);
   // [chinese-stages: further declarations go here]
   // Steps of matchAfterTime.
-  std::wstring fillChineseNumbers(const wchar_t *pattern);
-  std::optional<NLPRecognizeDate> matchUnitAfter(const std::wstring &title);
-  std::optional<NLPRecognizeDate> matchWorkDaysAfter(const PatternMatch &match);
-  void matchHoursMinutesAfter(const std::wstring &title, std::optional<NLPRecognizeDate> &result);
-  void matchHalfHourAfter(const std::wstring &title, std::optional<NLPRecognizeDate> &result);
-  void takeOffsetMatch(std::optional<NLPRecognizeDate> &result, const PatternMatch &match,
-                       const std::optional<NLPMorvaneDuration> &duration);
-  int offsetHours(const std::wstring &text);
+  std::wstring fillChineseNumbers(const wchar_t* pattern);
+  std::optional<NLPRecognizeDate> matchUnitAfter(const std::wstring& title);
+  std::optional<NLPRecognizeDate> matchWorkDaysAfter(const PatternMatch& match);
+  void matchHoursMinutesAfter(const std::wstring& title, std::optional<NLPRecognizeDate>& result);
+  void matchHalfHourAfter(const std::wstring& title, std::optional<NLPRecognizeDate>& result);
+  void takeOffsetMatch(std::optional<NLPRecognizeDate>& result, const PatternMatch& match,
+                       const std::optional<NLPMorvaneDuration>& duration);
+  int offsetHours(const std::wstring& text);
   // Steps of matchLunar.
-  std::optional<NLPRecognizeDate> matchNewYearDay(const std::wstring &title);
-  void placeLunarDate(std::tm *cal, int year, int month, int day, bool yearWritten);
+  std::optional<NLPRecognizeDate> matchNewYearDay(const std::wstring& title);
+  void placeLunarDate(std::tm* cal, int year, int month, int day, bool yearWritten);
   void extendRuleWithLunarDate(int month, int day);
   // Forms of matchRepeat.
-  std::wstring fillRepeatNumbers(const wchar_t *pattern);
-  void storeChineseRule(const StringRRule &rule);
-  std::optional<NLPRepeatResult> matchYearDayRepeat(const std::wstring &title);
-  std::optional<NLPRepeatResult> matchNthWeekdayRepeat(const std::wstring &title);
-  std::optional<NLPRepeatResult> matchTwoDaysRepeat(const std::wstring &title);
-  std::optional<NLPRepeatResult> matchYearlyHolidayRepeat(const std::wstring &title);
-  std::optional<NLPRepeatResult> matchOfficialWorkDayRepeat(const std::wstring &title);
-  NLPRepeatResult matchGeneralRepeat(const std::wstring &title);
-  void readWeeklyGeneral(const PatternMatch &match, StringRRule &rule, std::tm *cal);
-  void readMonthlyGeneral(const PatternMatch &match, StringRRule &rule, std::tm *cal);
+  std::wstring fillRepeatNumbers(const wchar_t* pattern);
+  void storeChineseRule(const StringRRule& rule);
+  std::optional<NLPRepeatResult> matchYearDayRepeat(const std::wstring& title);
+  std::optional<NLPRepeatResult> matchNthWeekdayRepeat(const std::wstring& title);
+  std::optional<NLPRepeatResult> matchTwoDaysRepeat(const std::wstring& title);
+  std::optional<NLPRepeatResult> matchYearlyHolidayRepeat(const std::wstring& title);
+  std::optional<NLPRepeatResult> matchOfficialWorkDayRepeat(const std::wstring& title);
+  NLPRepeatResult matchGeneralRepeat(const std::wstring& title);
+  void readWeeklyGeneral(const PatternMatch& match, StringRRule& rule, std::tm* cal);
+  void readMonthlyGeneral(const PatternMatch& match, StringRRule& rule, std::tm* cal);
   TMPtr nthWeekdayOfMonth(int n, WeekDay weekday);
   // Chinese ranges: the written-date range and the four range recognisers the
   // dispatcher tries.
@@ -195,25 +195,25 @@ class NLPNativeTitleParser {
   std::optional<NLPRecognizeDate> chineseDateDurationDateTimeRecognition(std::wstring title, OptTime defaultDate,
                                                                          OptTM leadDate);
   // [chinese-ranges: further declarations go here]
-  std::optional<NLPRecognizeDate> readWrittenDateRange(const PatternMatch &match);
+  std::optional<NLPRecognizeDate> readWrittenDateRange(const PatternMatch& match);
   // Shared steps of the range recognisers.
   std::wstring rangePiece(RangePiece piece);
   std::wstring rangeTimeOrPart();
-  Pattern rangePattern(const std::wstring &left, const std::wstring &right);
-  std::optional<NLPRecognizeDate> searchChineseRange(const std::wstring &title, const Pattern &range,
+  Pattern rangePattern(const std::wstring& left, const std::wstring& right);
+  std::optional<NLPRecognizeDate> searchChineseRange(const std::wstring& title, const Pattern& range,
                                                      OptTM fallbackDay);
-  std::optional<NLPRecognizeDate> joinRangeSides(const PatternMatch &match, int leftGroup, int rightGroup,
+  std::optional<NLPRecognizeDate> joinRangeSides(const PatternMatch& match, int leftGroup, int rightGroup,
                                                  OptTM fallbackDay);
-  std::optional<RangeSide> readRangeSide(const std::wstring &text);
-  bool readRangeWeekday(const std::wstring &text, RangeSide &side);
-  bool readRangeWritten(const std::wstring &text, RangeSide &side);
-  bool readRangeHoliday(const std::wstring &text, RangeSide &side);
-  void readRangeTime(const std::wstring &text, const std::wstring &dateText, RangeSide &side,
-                     const std::optional<NLPRecognizeDate> &named);
+  std::optional<RangeSide> readRangeSide(const std::wstring& text);
+  bool readRangeWeekday(const std::wstring& text, RangeSide& side);
+  bool readRangeWritten(const std::wstring& text, RangeSide& side);
+  bool readRangeHoliday(const std::wstring& text, RangeSide& side);
+  void readRangeTime(const std::wstring& text, const std::wstring& dateText, RangeSide& side,
+                     const std::optional<NLPRecognizeDate>& named);
   TMPtr rangeDefaultDay();
-  void readBareHourAsAfternoon(std::tm *record, const RangeSide &side);
-  void moveEndAfterStart(std::tm *start, std::tm *end, const RangeSide &right);
-  void rollEndedRange(std::tm *start, std::tm *end, const RangeSide &left, const RangeSide &right, bool hasTime,
+  void readBareHourAsAfternoon(std::tm* record, const RangeSide& side);
+  void moveEndAfterStart(std::tm* start, std::tm* end, const RangeSide& right);
+  void rollEndedRange(std::tm* start, std::tm* end, const RangeSide& left, const RangeSide& right, bool hasTime,
                       bool dayGiven);
   void setMonth(std::wstring month, TMPtr cal);
   void setDayOfMonth(std::wstring day, TMPtr cal);
@@ -231,30 +231,30 @@ class NLPNativeTitleParser {
   std::optional<NLPRecognizeDate> matchEnMonthDuration(std::wstring title, Vocabulary vocabulary);
   std::optional<NLPRecognizeDate> matchEnWeekDayDuration(std::wstring title, Vocabulary vocabulary);
   // Rows of matchEnDateDuration: numeric dates, then day words.
-  std::optional<NLPRecognizeDate> matchEnNumericDateDuration(const std::wstring &title, Vocabulary &vocabulary);
-  std::optional<NLPRecognizeDate> matchEnDayWordDuration(const std::wstring &title, Vocabulary &vocabulary);
+  std::optional<NLPRecognizeDate> matchEnNumericDateDuration(const std::wstring& title, Vocabulary& vocabulary);
+  std::optional<NLPRecognizeDate> matchEnDayWordDuration(const std::wstring& title, Vocabulary& vocabulary);
   // Steps of matchEnTimeDuration: the start in the past, then the end.
-  void rollEnTimeRangeStart(std::tm *start, std::tm *end, bool startHasMeridiem, bool twoDigitClock);
-  void rollEnTimeRangeEnd(std::tm *start, std::tm *end, int endHour, bool midnightEnd, bool endMeridiemText,
+  void rollEnTimeRangeStart(std::tm* start, std::tm* end, bool startHasMeridiem, bool twoDigitClock);
+  void rollEnTimeRangeEnd(std::tm* start, std::tm* end, int endHour, bool midnightEnd, bool endMeridiemText,
                           bool twoDigitClock);
-  void fixEnTimeRangeOrder(std::tm *start, std::tm *end, bool endHasMeridiem, bool midnightEnd);
+  void fixEnTimeRangeOrder(std::tm* start, std::tm* end, bool endHasMeridiem, bool midnightEnd);
   // Ranges of dates, named days and weekdays; the Chinese range dispatcher asks
   // it too.
   std::optional<NLPRecognizeDate> matchEnDateDuration(std::wstring title, Vocabulary vocabulary);
   // Stages of englishDateRecognition.
-  bool takeEnRange(const std::wstring &title, OptTime baseDate, Vocabulary vocabulary);
+  bool takeEnRange(const std::wstring& title, OptTime baseDate, Vocabulary vocabulary);
   // Writes a range's texts, start, end and reminder into the result (both
   // drivers).
-  void writeRange(const NLPRecognizeDate &range);
-  bool finishEnOffset(const NLPRecognizeDate &offset, OptTM dateCal, const std::wstring &title, Vocabulary vocabulary,
+  void writeRange(const NLPRecognizeDate& range);
+  bool finishEnOffset(const NLPRecognizeDate& offset, OptTM dateCal, const std::wstring& title, Vocabulary vocabulary,
                       bool isFrench);
-  OptTM matchEnTimeOnDate(const std::wstring &title, std::tm *calendar, bool hasDate, bool bareTimeRolls,
+  OptTM matchEnTimeOnDate(const std::wstring& title, std::tm* calendar, bool hasDate, bool bareTimeRolls,
                           Vocabulary vocabulary, bool isFrench);
-  OptTM mergeEnDate(int dateKind, const NLPRecognizeDate &winner, OptTM timeCal);
-  void rollBareTime(std::tm *record, const std::wstring &title, Vocabulary vocabulary, bool isFrench);
-  void rollNamedHour(std::tm *record, const std::wstring &title, Vocabulary vocabulary);
-  bool titleHasClockTime(const std::wstring &title);
-  int writtenHourOf(const std::wstring &title, Vocabulary vocabulary);
+  OptTM mergeEnDate(int dateKind, const NLPRecognizeDate& winner, OptTM timeCal);
+  void rollBareTime(std::tm* record, const std::wstring& title, Vocabulary vocabulary, bool isFrench);
+  void rollNamedHour(std::tm* record, const std::wstring& title, Vocabulary vocabulary);
+  bool titleHasClockTime(const std::wstring& title);
+  int writtenHourOf(const std::wstring& title, Vocabulary vocabulary);
 
   // ---- word-language: weekdays, named days, Japanese holidays
   // ---------------------------------
@@ -264,28 +264,28 @@ class NLPNativeTitleParser {
   // [words-weekdays: further declarations go here]
   // Moves a weekday of this week by the word in front of it (next, last, on,
   // this or none).
-  void applyWeekDayLead(std::tm *record, std::wstring lead, Vocabulary vocabulary);
+  void applyWeekDayLead(std::tm* record, std::wstring lead, Vocabulary vocabulary);
 
   // ---- word-language: clock times and named hours
   // ---------------------------------------------
-  OptTM matchEnTime(std::wstring title, std::tm *calendar, Vocabulary vocabulary, bool hasDate, bool isFrench);
-  OptTM matchSpecialEnTime(std::wstring title, std::tm *calendar, Vocabulary vocabulary);
+  OptTM matchEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary, bool hasDate, bool isFrench);
+  OptTM matchSpecialEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary);
   std::wstring getAtTimePattern(Vocabulary vocabulary);
   std::vector<std::wstring> getEnTimePattern(Vocabulary vocabulary);
   std::wstring getAmPmPattern(Vocabulary vocabulary);
   // [words-time: further declarations go here]
   int ampmToNumber(std::wstring text, Vocabulary vocabulary);
-  void addOverdueTime(std::tm *record, std::wstring hourText, std::wstring minuteText);
+  void addOverdueTime(std::tm* record, std::wstring hourText, std::wstring minuteText);
   std::map<std::wstring, std::pair<int, int>> getEnSpecialHourMap(Vocabulary vocabulary);
   // The three families of matchEnTime and the named-hour day parts.
-  OptTM matchEnAtTime(const std::wstring &title, std::tm *calendar, Vocabulary vocabulary, bool hasDate, bool isFrench);
-  OptTM matchEnCompactTime(const std::wstring &title, std::tm *calendar, Vocabulary vocabulary, bool hasDate);
-  OptTM matchEnListTime(const std::wstring &title, std::tm *calendar, Vocabulary vocabulary, bool hasDate,
+  OptTM matchEnAtTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary, bool hasDate, bool isFrench);
+  OptTM matchEnCompactTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary, bool hasDate);
+  OptTM matchEnListTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary, bool hasDate,
                         bool isFrench);
-  bool readListDayPart(std::tm *record, int number, std::wstring dayPart, const std::wstring &title,
+  bool readListDayPart(std::tm* record, int number, std::wstring dayPart, const std::wstring& title,
                        Vocabulary vocabulary);
-  bool rollPassedTimeOnWeeklyRule(std::tm *record, int hour);
-  OptTM matchEnDayPart(const std::wstring &title, std::tm *calendar, Vocabulary vocabulary);
+  bool rollPassedTimeOnWeeklyRule(std::tm* record, int hour);
+  OptTM matchEnDayPart(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary);
 
   // ---- word-language: offsets, advance reminders, repeat rules
   // ---------------------------------
@@ -341,7 +341,7 @@ class NLPNativeTitleParser {
   void applyPendingOffset();
   void dropEndNotAfterStart();
   void computeIsAllDay();
-  void addReminderRequest(const std::wstring &title);
+  void addReminderRequest(const std::wstring& title);
   void clearResult();
 };
 

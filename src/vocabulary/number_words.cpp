@@ -5,14 +5,14 @@
 
 namespace nlpdate {
 
-const std::wstring &numberWordAlternation(Vocabulary &vocabulary) {
+const std::wstring& numberWordAlternation(Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
-    const std::wstring *keys[] = {&ONE,      &TWO,      &THREE,      &FOUR,       &FIVE,         &SIX,
+    const std::wstring* keys[] = {&ONE,      &TWO,      &THREE,      &FOUR,       &FIVE,         &SIX,
                                   &SEVEN,    &EIGHT,    &NINE,       &TEN,        &ELEVEN,       &TWELVE,
                                   &THIRTEEN, &FOURTEEN, &FIFTEEN,    &SIXTEEN,    &SEVENTEEN,    &EIGHTEEN,
                                   &NINETEEN, &TWENTY,   &TWENTY_ONE, &TWENTY_TWO, &TWENTY_THREE, &TWENTY_FOUR};
     std::wstring words;
-    for (const std::wstring *key : keys) words += (key == keys[0] ? L"" : L"|") + vocabulary[*key];
+    for (const std::wstring* key : keys) words += (key == keys[0] ? L"" : L"|") + vocabulary[*key];
     return words;
   });
 }

@@ -5,7 +5,7 @@
 
 namespace nlpdate {
 
-const std::wstring &getDurationFlag(const Vocabulary &vocabulary) {
+const std::wstring& getDurationFlag(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     const auto found = vocabulary.find(DURATION_FLAG);
     const std::wstring extra = found == vocabulary.end() || found->second.empty() ? L"" : L"|" + found->second;

@@ -11,6 +11,6 @@ namespace nlpdate {
 
 // "\s*(-|~|～|到|至|—|to|until|<the language's DURATION_FLAG>)\s*": exactly one
 // group, which every range pattern counts on.
-const std::wstring &getDurationFlag(const Vocabulary &vocabulary);
+const std::wstring& getDurationFlag(const Vocabulary& vocabulary);
 
 }  // namespace nlpdate

@@ -14,14 +14,14 @@ namespace nlpdate {
 
 namespace {
 
-const std::wstring &amWordsPattern(Vocabulary &vocabulary) {
+const std::wstring& amWordsPattern(Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     return L"(" + addWordBorderInStart(vocabulary[MORNING]) + L"|" + addWordBorderInStart(vocabulary[MIDNIGHT]) +
            L")()";
   });
 }
 
-const std::wstring &pmWordsPattern(Vocabulary &vocabulary) {
+const std::wstring& pmWordsPattern(Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     return L"(" + addWordBorderInStart(vocabulary[AFTERNOON]) + L"|" + addWordBorderInStart(vocabulary[EVENING]) +
            L"|" + addWordBorderInStart(vocabulary[NIGHT]) + L"|" + addWordBorderInStart(vocabulary[TONIGHT]) + L"|" +
@@ -47,7 +47,7 @@ std::vector<std::wstring> NLPNativeTitleParser::getEnTimePattern(Vocabulary voca
   };
 }
 
-OptTM NLPNativeTitleParser::matchEnCompactTime(const std::wstring &title, std::tm *calendar, Vocabulary vocabulary,
+OptTM NLPNativeTitleParser::matchEnCompactTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary,
                                                bool hasDate) {
   PatternMatch match;
   const std::wstring pattern = L"\\b(\\d{1,2})\\.?(\\d{2})\\s*(" + vocabulary[AM_PM] + L")";
@@ -69,7 +69,7 @@ OptTM NLPNativeTitleParser::matchEnCompactTime(const std::wstring &title, std::t
   return record;
 }
 
-bool NLPNativeTitleParser::readListDayPart(std::tm *record, int number, std::wstring dayPart, const std::wstring &title,
+bool NLPNativeTitleParser::readListDayPart(std::tm* record, int number, std::wstring dayPart, const std::wstring& title,
                                            Vocabulary vocabulary) {
   trim(dayPart);
   if (!dayPart.empty()) {
@@ -97,11 +97,11 @@ bool NLPNativeTitleParser::readListDayPart(std::tm *record, int number, std::wst
   return seen;
 }
 
-OptTM NLPNativeTitleParser::matchEnListTime(const std::wstring &title, std::tm *calendar, Vocabulary vocabulary,
+OptTM NLPNativeTitleParser::matchEnListTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary,
                                             bool hasDate, bool isFrench) {
   PatternMatch match;
   bool found = false;
-  for (const std::wstring &pattern : getEnTimePattern(vocabulary)) {
+  for (const std::wstring& pattern : getEnTimePattern(vocabulary)) {
     if (compilePattern(pattern, PatternCase::Insensitive).search(title, match)) {
       found = true;
       break;

@@ -9,20 +9,20 @@
 
 namespace nlpdate {
 
-const std::wstring &getEnMonthRecognition(Vocabulary vocabulary);
+const std::wstring& getEnMonthRecognition(Vocabulary vocabulary);
 // Second looks when two numbers stand around the month.
-const std::wstring &getEnMonthRecognitionStartWithMonth(Vocabulary vocabulary);
-const std::wstring &getEnMonthRecognitionStartWithDay(Vocabulary vocabulary);
+const std::wstring& getEnMonthRecognitionStartWithMonth(Vocabulary vocabulary);
+const std::wstring& getEnMonthRecognitionStartWithDay(Vocabulary vocabulary);
 
 // The other patterns of matchEnMonth: day, month and clock time; clock time,
 // month and day; a bare ordinal day; a day before a month of the languages
 // that the main pattern's borders keep out.
-const std::wstring &getEnMonthDayTimePattern(Vocabulary vocabulary);
-const std::wstring &getEnMonthTimeDayPattern(Vocabulary vocabulary);
-const std::wstring &getEnMonthOrdinalDayPattern(Vocabulary vocabulary);
-const std::wstring &getEnMonthDayFirstPattern(Vocabulary vocabulary);
+const std::wstring& getEnMonthDayTimePattern(Vocabulary vocabulary);
+const std::wstring& getEnMonthTimeDayPattern(Vocabulary vocabulary);
+const std::wstring& getEnMonthOrdinalDayPattern(Vocabulary vocabulary);
+const std::wstring& getEnMonthDayFirstPattern(Vocabulary vocabulary);
 
 // Whether the vocabulary's language code holds the two letters.
-bool isVocabularyLanguage(Vocabulary &vocabulary, const wchar_t *code);
+bool isVocabularyLanguage(Vocabulary& vocabulary, const wchar_t* code);
 
 }  // namespace nlpdate

@@ -10,7 +10,7 @@
 
 namespace nlpdate {
 
-const std::wstring &getSpecialDayRecognition(Vocabulary vocabulary) {
+const std::wstring& getSpecialDayRecognition(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     // Russian words for tomorrow are bordered at both ends.
     const bool isRussian = vocabulary[LOCAL].find(L"ru") != std::wstring::npos;

@@ -9,6 +9,6 @@
 namespace nlpdate {
 
 // Two groups: the named day and its trailing blanks.
-const std::wstring &getSpecialDayRecognition(Vocabulary vocabulary);
+const std::wstring& getSpecialDayRecognition(Vocabulary vocabulary);
 
 }  // namespace nlpdate

@@ -13,7 +13,7 @@ namespace nlpdate {
 namespace {
 
 // Latin words get word borders; in Portuguese every word gets a leading one.
-const std::wstring &morningWords(Vocabulary &vocabulary) {
+const std::wstring& morningWords(Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     const std::wstring value = vocabulary[MORNING];
     if (value.empty()) return value;
@@ -58,9 +58,9 @@ std::map<std::wstring, std::pair<int, int>> NLPNativeTitleParser::getEnSpecialHo
   return hours;
 }
 
-OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title, std::tm *calendar, Vocabulary vocabulary) {
+OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary) {
   PatternMatch match;
-  for (const auto &[pattern, time] : getEnSpecialHourMap(vocabulary)) {
+  for (const auto& [pattern, time] : getEnSpecialHourMap(vocabulary)) {
     if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;
     TMPtr record = getDefaultTM();
     copyTM(calendar, record.get());
@@ -75,7 +75,7 @@ OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title, std::tm *cale
   return matchEnDayPart(title, calendar, vocabulary);
 }
 
-OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring &title, std::tm *calendar, Vocabulary vocabulary) {
+OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary) {
   const std::wstring at = L"(" + vocabulary[AT] + L")?\\s*";
   const DayPart parts[] = {
       {at + morningWords(vocabulary), morningHour, morningMinute, 12},
@@ -84,7 +84,7 @@ OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring &title, std::tm *c
       {at + addWordBorderInStartAndEnd(vocabulary[NIGHT]), nightHour, nightMinute, 24},
   };
   PatternMatch match;
-  for (const DayPart &part : parts) {
+  for (const DayPart& part : parts) {
     if (!compilePattern(part.pattern, PatternCase::Insensitive).search(title, match)) continue;
     TMPtr record = getDefaultTM();
     copyTM(calendar, record.get());

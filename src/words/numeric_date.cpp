@@ -14,16 +14,16 @@ namespace nlpdate {
 namespace {
 
 // A point divides only where a four-digit year makes the date certain.
-const wchar_t *const kDayMonthFullYear =
+const wchar_t* const kDayMonthFullYear =
     LR"~((\(|\b)(«ON_BY»)?\s*(3[0-1]|[0-2]?[0-9])([\.«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])([\.«DATE_DIVIDER»])?(\d{4})(\)|\b)(\s)*)~";
-const wchar_t *const kRelativeMonthYear = LR"~((«NEXT»\s+(«MONTH»|«YEAR»))|(«END_OF_MONTH»))~";
-const wchar_t *const kFullYearFirst =
+const wchar_t* const kRelativeMonthYear = LR"~((«NEXT»\s+(«MONTH»|«YEAR»))|(«END_OF_MONTH»))~";
+const wchar_t* const kFullYearFirst =
     LR"~((\(|\b)(«ON_BY»)?\s*(\d{4})([\.«DATE_DIVIDER»])?(1[0-2]|0?[1-9])([\.«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])(\)|\b)(\s)*)~";
-const wchar_t *const kDayMonthShortYear =
+const wchar_t* const kDayMonthShortYear =
     LR"~((\(|\b)(«ON_BY»)?\s*(3[0-1]|[0-2]?[0-9])([«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])([«DATE_DIVIDER»])?(\d{2})(\)|\b)(\s)*)~";
-const wchar_t *const kMonthFirstNoYear =
+const wchar_t* const kMonthFirstNoYear =
     LR"~((\(|\b)(«ON_BY»)?\s*(1[0-2]|0?[0-9])([«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])([«DATE_DIVIDER»])?(\)|\b)(?!\.)(\s)*)~";
-const wchar_t *const kDayFirstNoYear =
+const wchar_t* const kDayFirstNoYear =
     LR"~((\(|\b)(«ON_BY»)?\s*(3[0-1]|[0-2]?[0-9])([«DATE_DIVIDER»])(1[0-2]|0?[0-9])([«DATE_DIVIDER»])?(\)|\b)(?!\.)(\s)*)~";
 
 // Which groups hold month, day and year; a relative phrase has none.
@@ -34,7 +34,7 @@ struct DateFields {
 };
 
 struct NumericStep {
-  const wchar_t *pattern;
+  const wchar_t* pattern;
   bool relative;
   DateFields fields;
 };
@@ -56,7 +56,7 @@ std::vector<NumericStep> numericSteps(bool monthFirst) {
   return steps;
 }
 
-const PatternPieces &numericPieces(Vocabulary &vocabulary) {
+const PatternPieces& numericPieces(Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> PatternPieces {
     return {{L"ON_BY", vocabulary[ON_BY]}, {L"DATE_DIVIDER", vocabulary[DATE_DIVIDER]},
             {L"NEXT", vocabulary[NEXT]},   {L"MONTH", vocabulary[MONTH]},
@@ -68,7 +68,7 @@ const PatternPieces &numericPieces(Vocabulary &vocabulary) {
 // means next year. In a bracketed date with no year the year group holds the
 // closing ")", which is read as a year all the same, as the rule has always
 // done.
-void applyYear(NLPNativeTitleParser &parser, std::tm *record, std::wstring yearText, long todaySeconds) {
+void applyYear(NLPNativeTitleParser& parser, std::tm* record, std::wstring yearText, long todaySeconds) {
   trim(yearText);
   if (!yearText.empty()) {
     if (yearText.size() == 2) yearText = L"20" + yearText;
@@ -80,7 +80,7 @@ void applyYear(NLPNativeTitleParser &parser, std::tm *record, std::wstring yearT
 
 // Fields go in as read: a month of 13 or a day of 31 in a short month is
 // carried over by the later normalising.
-TMPtr readFields(NLPNativeTitleParser &parser, const PatternMatch &match, const DateFields &fields, long todaySeconds) {
+TMPtr readFields(NLPNativeTitleParser& parser, const PatternMatch& match, const DateFields& fields, long todaySeconds) {
   TMPtr record = parser.getDefaultTM();
   parser.setTMToDefaultTime(record.get());
   std::wstring monthText = match[fields.month].str();
@@ -93,7 +93,7 @@ TMPtr readFields(NLPNativeTitleParser &parser, const PatternMatch &match, const 
   return record;
 }
 
-TMPtr readRelative(NLPNativeTitleParser &parser, const PatternMatch &match, Vocabulary &vocabulary) {
+TMPtr readRelative(NLPNativeTitleParser& parser, const PatternMatch& match, Vocabulary& vocabulary) {
   TMPtr record = parser.getDefaultTM();
   parser.setTMToDefaultTime(record.get());
   std::wstring unit = toLowerCase(match[2].str());
@@ -117,7 +117,7 @@ TMPtr readRelative(NLPNativeTitleParser &parser, const PatternMatch &match, Voca
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDate(std::wstring title, Vocabulary vocabulary) {
   long todaySeconds = today();
   PatternPieces pieces = numericPieces(vocabulary);
-  for (const NumericStep &step : numericSteps(isUsOrUkDateFormat)) {
+  for (const NumericStep& step : numericSteps(isUsOrUkDateFormat)) {
     Pattern pattern = compilePattern(fillPieces(step.pattern, pieces), PatternCase::Insensitive);
     PatternMatch match;
     if (!pattern.search(title, match)) continue;

@@ -13,7 +13,7 @@ namespace nlpdate {
 
 namespace {
 
-const std::wstring &allUnits(Vocabulary &v) {
+const std::wstring& allUnits(Vocabulary& v) {
   return keptFor(v, [&]() -> std::wstring {
     return v[MINUTE] + L"|" + v[HOUR] + L"|" + v[DAY] + L"|" + v[WEEK] + L"|" + v[MONTH] + L"|" + v[YEAR];
   });
@@ -28,7 +28,7 @@ struct OffsetPattern {
   bool wordNumbers;  // counts may be number words, read with matchEnglishNum
 };
 
-const std::vector<OffsetPattern> &offsetPatterns(Vocabulary &v) {
+const std::vector<OffsetPattern>& offsetPatterns(Vocabulary& v) {
   return keptFor(v, [&]() -> std::vector<OffsetPattern> {
     const std::wstring words = numberWordAlternation(v);
     return {
@@ -49,7 +49,7 @@ const std::vector<OffsetPattern> &offsetPatterns(Vocabulary &v) {
 }  // namespace
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnAfterTime(std::wstring title, Vocabulary vocabulary) {
-  for (const OffsetPattern &pattern : offsetPatterns(vocabulary)) {
+  for (const OffsetPattern& pattern : offsetPatterns(vocabulary)) {
     PatternMatch match;
     if (!compilePattern(pattern.text, PatternCase::Insensitive).search(title, match)) continue;
 
@@ -58,7 +58,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnAfterTime(std::wstr
       offset = getDuration(match[pattern.countGroup].str(), match[pattern.unitGroup].str(), true, vocabulary);
     } else {
       // Hours and minutes: the whole amount goes in minutes.
-      auto readNumber = [&](const std::wstring &text) {
+      auto readNumber = [&](const std::wstring& text) {
         return pattern.wordNumbers ? matchEnglishNum(text, vocabulary) : translateNum(text);
       };
       std::wstring first = match[pattern.countGroup].str();

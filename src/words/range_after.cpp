@@ -14,10 +14,10 @@ namespace nlpdate {
 
 namespace {
 // Number words are deliberately not part of the first form.
-const wchar_t *const kAfterOffset = LR"~((«AFTER»)\s+(\d{1,3}|«HALF_A»|«A»)\s+(«UNITS»))~";
+const wchar_t* const kAfterOffset = LR"~((«AFTER»)\s+(\d{1,3}|«HALF_A»|«A»)\s+(«UNITS»))~";
 constexpr int kAfterNumberGroup = 2;
 constexpr int kAfterUnitGroup = 3;
-const wchar_t *const kLaterOffset = LR"~((\d{1,3}|«HALF_A»|«A»|«NUMBER_WORDS»)\s*(«UNITS»)\s+(«LATER»))~";
+const wchar_t* const kLaterOffset = LR"~((\d{1,3}|«HALF_A»|«A»|«NUMBER_WORDS»)\s*(«UNITS»)\s+(«LATER»))~";
 constexpr int kLaterNumberGroup = 1;
 constexpr int kLaterUnitGroup = 2;
 // Clock groups behind either offset of three groups.
@@ -28,18 +28,18 @@ constexpr int kEndHourGroup = 13;
 constexpr int kEndMinuteGroup = 14;
 constexpr int kEndMeridiemGroup = 15;
 
-const std::vector<const std::wstring *> &numberWordKeys() {
-  static const std::vector<const std::wstring *> keys = {
+const std::vector<const std::wstring*>& numberWordKeys() {
+  static const std::vector<const std::wstring*> keys = {
       &ONE,       &TWO,      &THREE,    &FOUR,   &FIVE,       &SIX,        &SEVEN,        &EIGHT,
       &NINE,      &TEN,      &ELEVEN,   &TWELVE, &THIRTEEN,   &FOURTEEN,   &FIFTEEN,      &SIXTEEN,
       &SEVENTEEN, &EIGHTEEN, &NINETEEN, &TWENTY, &TWENTY_ONE, &TWENTY_TWO, &TWENTY_THREE, &TWENTY_FOUR};
   return keys;
 }
 
-const PatternPieces &offsetPieces(Vocabulary &vocabulary) {
+const PatternPieces& offsetPieces(Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> PatternPieces {
     std::wstring numbers;
-    for (const std::wstring *key : numberWordKeys()) numbers += (numbers.empty() ? L"" : L"|") + vocabulary[*key];
+    for (const std::wstring* key : numberWordKeys()) numbers += (numbers.empty() ? L"" : L"|") + vocabulary[*key];
     const std::wstring units = vocabulary[MINUTE] + L"|" + vocabulary[HOUR] + L"|" + vocabulary[DAY] + L"|" +
                                vocabulary[WEEK] + L"|" + vocabulary[MONTH] + L"|" + vocabulary[YEAR];
     return {{L"AFTER", vocabulary[AFTER]}, {L"HALF_A", vocabulary[HALF_A]}, {L"A", vocabulary[A]}, {L"UNITS", units},
@@ -49,15 +49,15 @@ const PatternPieces &offsetPieces(Vocabulary &vocabulary) {
 
 // The hour of one side: a pm word adds 12 below 13, so 12 pm reads 24 and
 // rolls into the next day (kept as it is); an am word changes nothing.
-int afterHour(NLPNativeTitleParser &parser, const std::wstring &hourText, const std::wstring &meridiemText,
-              Vocabulary &vocabulary) {
+int afterHour(NLPNativeTitleParser& parser, const std::wstring& hourText, const std::wstring& meridiemText,
+              Vocabulary& vocabulary) {
   int hour = parser.translateNum(hourText);
   if (hour < 13 && !meridiemText.empty() && containStr(toLowerCase(meridiemText), vocabulary[PM])) hour += 12;
   return hour;
 }
 
 // Moves now by the offset; an offset of whole days starts at midnight.
-void applyAfterOffset(NLPNativeTitleParser &parser, std::tm *start, const NLPMorvaneDuration &offset) {
+void applyAfterOffset(NLPNativeTitleParser& parser, std::tm* start, const NLPMorvaneDuration& offset) {
   if (offset.getHours() == 0 && offset.getMinutes() == 0 && offset.getSeconds() == 0) {
     start->tm_sec = 0;
     start->tm_min = 0;
@@ -82,11 +82,11 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnAfterDuration(std::
   PatternMatch match;
   int numberGroup = 0;
   int unitGroup = 0;
-  const std::pair<const wchar_t *, std::pair<int, int>> offsets[] = {
+  const std::pair<const wchar_t*, std::pair<int, int>> offsets[] = {
       {kAfterOffset, {kAfterNumberGroup, kAfterUnitGroup}}, {kLaterOffset, {kLaterNumberGroup, kLaterUnitGroup}}};
-  for (const auto &[offsetText, groups] : offsets) {
+  for (const auto& [offsetText, groups] : offsets) {
     const std::wstring offset = fillPieces(offsetText, pieces);
-    for (const std::wstring &time : times) {
+    for (const std::wstring& time : times) {
       if (searchRange(title, offset + time + flag + time, PatternCase::Insensitive, match)) {
         numberGroup = groups.first;
         unitGroup = groups.second;

@@ -8,23 +8,23 @@ namespace nlpdate {
 
 namespace {
 
-const wchar_t *const kWeekdays = LR"~(«MONDAY»|«TUESDAY»|«WEDNESDAY»|«THURSDAY»|«FRIDAY»|«SATURDAY»|«SUNDAY»)~";
-const wchar_t *const kMonths =
+const wchar_t* const kWeekdays = LR"~(«MONDAY»|«TUESDAY»|«WEDNESDAY»|«THURSDAY»|«FRIDAY»|«SATURDAY»|«SUNDAY»)~";
+const wchar_t* const kMonths =
     LR"~(«JANUARY»|«FEBRUARY»|«MARCH»|«APRIL»|«MAY»|«JUNE»|«JULY»|«AUGUST»|«SEPTEMBER»|«OCTOBER»|«NOVEMBER»|«DECEMBER»)~";
-const wchar_t *const kDateName = LR"~(((«TODAY»|«TOMORROW»)|(«WEEKDAYS»)))~";
-const wchar_t *const kDateDay = LR"~(((«DAY_OF_MONTH_DIGITAL»)(«DAY_END»)?))~";
-const wchar_t *const kDateMonth = LR"~((«MONTHS»))~";
+const wchar_t* const kDateName = LR"~(((«TODAY»|«TOMORROW»)|(«WEEKDAYS»)))~";
+const wchar_t* const kDateDay = LR"~(((«DAY_OF_MONTH_DIGITAL»)(«DAY_END»)?))~";
+const wchar_t* const kDateMonth = LR"~((«MONTHS»))~";
 // Every part optional, so that day-month, month-day and a bare weekday all fit.
-const wchar_t *const kDate = LR"~(«DATE_DAY»?\s*«DATE_MONTH»?\s*«DATE_DAY»?\s*«DATE_NAME»?\s*)~";
+const wchar_t* const kDate = LR"~(«DATE_DAY»?\s*«DATE_MONTH»?\s*«DATE_DAY»?\s*«DATE_NAME»?\s*)~";
 
-const wchar_t *const kFrom =
+const wchar_t* const kFrom =
     LR"~((«EVERY»)\s+(((«DAY»|«MORNING»|«AFTERNOON»|«NOON»|«EVENING»|«NIGHT»|«WEEK»|«MONTH»|«YEAR»)\s+«FROM»\s+«DATE»\s*(«DURATION_FLAG»)?\s?«DATE»)))~";
-const wchar_t *const kFor =
+const wchar_t* const kFor =
     LR"~((«EVERY»)\s+(«DAY»|«MORNING»|«AFTERNOON»|«NOON»|«EVENING»|«NIGHT»|«WEEK»|«MONTH»)\s+«FOR»\s+(\d{0,2})\s+((«WEEK»)|(«MONTH»))(s?|\b))~";
-const wchar_t *const kStartEnd =
+const wchar_t* const kStartEnd =
     LR"~((«EVERY»)\s+(«FIRST»|«SECOND»|«THIRD»|«FOURTH»|«FIFTH»|«LAST»)?\s*((«WEEKDAYS»)?|((«DAY_OF_MONTH_DIGITAL»)\s*(«DAY_END»)?))\s+((«START»)\s+«DATE»)?\s*((«END»)\s*(«ON»\s*(«DATE»)|(«IN_WORD»\s*((\d{0,2})\s+((«WEEK»)|(«MONTH»)|(«YEAR»))))))?)~";
 
-PatternPieces vocabularyPieces(Vocabulary &v) {
+PatternPieces vocabularyPieces(Vocabulary& v) {
   return {{L"MONDAY", v[MONDAY]},
           {L"TUESDAY", v[TUESDAY]},
           {L"WEDNESDAY", v[WEDNESDAY]},
@@ -75,7 +75,7 @@ PatternPieces vocabularyPieces(Vocabulary &v) {
 
 // The vocabulary values with the composed pieces on top: weekday and month
 // lists, and the optional date that the patterns use twice.
-const PatternPieces &untilPieces(Vocabulary &vocabulary) {
+const PatternPieces& untilPieces(Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> PatternPieces {
     PatternPieces pieces = vocabularyPieces(vocabulary);
     pieces[L"WEEKDAYS"] = fillPieces(kWeekdays, pieces);
@@ -90,15 +90,15 @@ const PatternPieces &untilPieces(Vocabulary &vocabulary) {
 
 }  // namespace
 
-const std::wstring &repeatFromPattern(Vocabulary &vocabulary) {
+const std::wstring& repeatFromPattern(Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring { return fillPieces(kFrom, untilPieces(vocabulary)); });
 }
 
-const std::wstring &repeatForPattern(Vocabulary &vocabulary) {
+const std::wstring& repeatForPattern(Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring { return fillPieces(kFor, untilPieces(vocabulary)); });
 }
 
-const std::wstring &repeatStartEndPattern(Vocabulary &vocabulary) {
+const std::wstring& repeatStartEndPattern(Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring { return fillPieces(kStartEnd, untilPieces(vocabulary)); });
 }
 

@@ -13,7 +13,7 @@ namespace nlpdate {
 
 namespace {
 
-bool has(const std::wstring &text, const wchar_t *part) { return text.find(part) != std::wstring::npos; }
+bool has(const std::wstring& text, const wchar_t* part) { return text.find(part) != std::wstring::npos; }
 
 // tm_wday as a WeekDay: 7 is Sunday, anything outside 0..7 Monday.
 WeekDay weekDayOfValue(int value) {
@@ -21,7 +21,7 @@ WeekDay weekDayOfValue(int value) {
   return value == 7 ? Sunday : static_cast<WeekDay>(value);
 }
 
-bool startsWithAlternative(const std::wstring &text, const std::wstring &alternatives) {
+bool startsWithAlternative(const std::wstring& text, const std::wstring& alternatives) {
   size_t begin = 0;
   while (true) {
     size_t bar = alternatives.find(L'|', begin);
@@ -34,7 +34,7 @@ bool startsWithAlternative(const std::wstring &text, const std::wstring &alterna
 
 }  // namespace
 
-const std::wstring &getDayOfWeekRecog(Vocabulary vocabulary) {
+const std::wstring& getDayOfWeekRecog(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     const bool isEnglish = has(vocabulary[LOCAL], L"en");
     return L"(^|" + vocabulary[NEXT] + L"|\\b" + vocabulary[LAST] + L"|\\b" + vocabulary[THIS] + L"|" +
@@ -52,7 +52,7 @@ const std::wstring &getDayOfWeekRecog(Vocabulary vocabulary) {
 WeekDay translateDayOfWeek(std::wstring word, int today, Vocabulary vocabulary) {
   if (word.empty()) return Sunday;
   const std::wstring w = toLowerCase(word);
-  auto names = [&](const wchar_t *latin, const std::wstring &key, const wchar_t *han, const wchar_t *digit) {
+  auto names = [&](const wchar_t* latin, const std::wstring& key, const wchar_t* han, const wchar_t* digit) {
     return has(w, latin) || containStr(w, vocabulary[key]) || has(w, han) || has(w, digit);
   };
   if (names(L"mon", MONDAY, L"一", L"1")) return Monday;
@@ -69,7 +69,7 @@ WeekDay translateDayOfWeek(std::wstring word, int today, Vocabulary vocabulary) 
   return Sunday;
 }
 
-void NLPNativeTitleParser::applyWeekDayLead(std::tm *record, std::wstring lead, Vocabulary vocabulary) {
+void NLPNativeTitleParser::applyWeekDayLead(std::tm* record, std::wstring lead, Vocabulary vocabulary) {
   if (lead.empty()) {
     if (isBeforeToday(record)) record->tm_mday += 7;
     return;

@@ -14,6 +14,6 @@ namespace nlpdate {
 WeekDay translateDayOfWeek(std::wstring word, int today, Vocabulary vocabulary);
 
 // Three groups: the word before the day, the day, the word after the day.
-const std::wstring &getDayOfWeekRecog(Vocabulary vocabulary);
+const std::wstring& getDayOfWeekRecog(Vocabulary vocabulary);
 
 }  // namespace nlpdate
