@@ -231,8 +231,8 @@ class NLPNativeTitleParser {
   std::optional<NLPRecognizeDate> matchEnMonthDuration(std::wstring title, Vocabulary vocabulary);
   std::optional<NLPRecognizeDate> matchEnWeekDayDuration(std::wstring title, Vocabulary vocabulary);
   // Rows of matchEnDateDuration: numeric dates, then day words.
-  std::optional<NLPRecognizeDate> matchEnNumericDateDuration(const std::wstring& title, Vocabulary& vocabulary);
-  std::optional<NLPRecognizeDate> matchEnDayWordDuration(const std::wstring& title, Vocabulary& vocabulary);
+  std::optional<NLPRecognizeDate> matchEnNumericDateDuration(const std::wstring& title, const Vocabulary& vocabulary);
+  std::optional<NLPRecognizeDate> matchEnDayWordDuration(const std::wstring& title, const Vocabulary& vocabulary);
   // Steps of matchEnTimeDuration: the start in the past, then the end.
   void rollEnTimeRangeStart(std::tm* start, std::tm* end, bool startHasMeridiem, bool twoDigitClock);
   void rollEnTimeRangeEnd(std::tm* start, std::tm* end, int endHour, bool midnightEnd, bool endMeridiemText,
@@ -271,7 +271,7 @@ class NLPNativeTitleParser {
   OptTM matchEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary, bool hasDate, bool isFrench);
   OptTM matchSpecialEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary);
   std::wstring getAtTimePattern(Vocabulary vocabulary);
-  std::vector<std::wstring> getEnTimePattern(Vocabulary vocabulary);
+  const std::vector<std::wstring>& getEnTimePattern(const Vocabulary& vocabulary);
   std::wstring getAmPmPattern(Vocabulary vocabulary);
   // [words-time: further declarations go here]
   int ampmToNumber(std::wstring text, Vocabulary vocabulary);

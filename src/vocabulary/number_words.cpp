@@ -5,7 +5,7 @@
 
 namespace nlpdate {
 
-const std::wstring& numberWordAlternation(Vocabulary& vocabulary) {
+const std::wstring& numberWordAlternation(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     const std::wstring* keys[] = {&ONE,      &TWO,      &THREE,      &FOUR,       &FIVE,         &SIX,
                                   &SEVEN,    &EIGHT,    &NINE,       &TEN,        &ELEVEN,       &TWELVE,

@@ -11,6 +11,6 @@ namespace nlpdate {
 
 // «ONE»|«TWO»|...|«TWENTY_FOUR», joined literally: a missing word stays an
 // empty alternative with its bar.
-const std::wstring& numberWordAlternation(Vocabulary& vocabulary);
+const std::wstring& numberWordAlternation(const Vocabulary& vocabulary);
 
 }  // namespace nlpdate

@@ -7,11 +7,10 @@
 namespace nlpdate {
 
 std::wstring NLPNativeTitleParser::matchEnAdvanceTime(std::wstring title, Vocabulary vocabulary) {
-  Vocabulary& v = vocabulary;
+  const Vocabulary& v = vocabulary;
   PatternMatch match;
-  const std::wstring amount = L"(" + v[REMINDER] + L")\\s+(\\S+ )?(\\d{1,2}|" + v[HALF_A] + L"|" + v[A] +
-                              L")\\s+(" + v[MINUTE] + L"|" + v[HOUR] + L"|" + v[DAY] + L"|" + v[WEEK] + L")\\s+(" +
-                              v[EARLY] + L")";
+  const std::wstring amount = L"(" + v[REMINDER] + L")\\s+(\\S+ )?(\\d{1,2}|" + v[HALF_A] + L"|" + v[A] + L")\\s+(" +
+                              v[MINUTE] + L"|" + v[HOUR] + L"|" + v[DAY] + L"|" + v[WEEK] + L")\\s+(" + v[EARLY] + L")";
   if (compilePattern(amount, PatternCase::Insensitive).search(title, match)) {
     std::optional<NLPMorvaneDuration> offset = getDuration(match[3].str(), match[4].str(), vocabulary);
     if (offset) parserDueDate.pendingOffset = offset;

@@ -14,14 +14,14 @@ namespace nlpdate {
 
 namespace {
 
-const std::wstring& amWordsPattern(Vocabulary& vocabulary) {
+const std::wstring& amWordsPattern(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     return L"(" + addWordBorderInStart(vocabulary[MORNING]) + L"|" + addWordBorderInStart(vocabulary[MIDNIGHT]) +
            L")()";
   });
 }
 
-const std::wstring& pmWordsPattern(Vocabulary& vocabulary) {
+const std::wstring& pmWordsPattern(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     return L"(" + addWordBorderInStart(vocabulary[AFTERNOON]) + L"|" + addWordBorderInStart(vocabulary[EVENING]) +
            L"|" + addWordBorderInStart(vocabulary[NIGHT]) + L"|" + addWordBorderInStart(vocabulary[TONIGHT]) + L"|" +
@@ -31,20 +31,22 @@ const std::wstring& pmWordsPattern(Vocabulary& vocabulary) {
 
 }  // namespace
 
-std::vector<std::wstring> NLPNativeTitleParser::getEnTimePattern(Vocabulary vocabulary) {
-  const std::wstring lead = L"(" + addWordBorderInStart(vocabulary[ON_AT]) + L")?";
-  const std::wstring ampm = vocabulary[AM_PM];
-  const std::wstring clock = vocabulary[CLOCK];
-  const std::wstring minute = vocabulary[MINUTE];
-  const std::wstring words = numberWordAlternation(vocabulary);
-  return {
-      L"\\s*" + lead + L"\\s*(\\b)(2[0-4]|[0-1]?[0-9])(?::([0-5]?[0-9]))? ?(" + ampm + L")()\\s*",
-      lead + L"\\s*((2[0-4]|[0-1]?[0-9])[:|：]([0-5][0-9]))(\\b)()\\s*",
-      lead + L"\\s*((2[0-4]|[0-1]?[0-9])\\s*(?:" + clock + L")\\s*([0-5][0-9])?(?:" + minute + L")?) ?(" + ampm +
-          L")?()\\s*",
-      lead + L"\\s*(\\b)(" + words + L")( ?)(" + ampm + L")\\b()\\s*",
-      lead + L"\\s*()(" + words + L")\\s?(?:" + clock + L")\\s*(\\d)?(?:" + minute + L")?()()\\s*",
-  };
+const std::vector<std::wstring>& NLPNativeTitleParser::getEnTimePattern(const Vocabulary& vocabulary) {
+  return keptFor(vocabulary, [&vocabulary]() -> std::vector<std::wstring> {
+    const std::wstring lead = L"(" + addWordBorderInStart(vocabulary[ON_AT]) + L")?";
+    const std::wstring ampm = vocabulary[AM_PM];
+    const std::wstring clock = vocabulary[CLOCK];
+    const std::wstring minute = vocabulary[MINUTE];
+    const std::wstring words = numberWordAlternation(vocabulary);
+    return {
+        L"\\s*" + lead + L"\\s*(\\b)(2[0-4]|[0-1]?[0-9])(?::([0-5]?[0-9]))? ?(" + ampm + L")()\\s*",
+        lead + L"\\s*((2[0-4]|[0-1]?[0-9])[:|：]([0-5][0-9]))(\\b)()\\s*",
+        lead + L"\\s*((2[0-4]|[0-1]?[0-9])\\s*(?:" + clock + L")\\s*([0-5][0-9])?(?:" + minute + L")?) ?(" + ampm +
+            L")?()\\s*",
+        lead + L"\\s*(\\b)(" + words + L")( ?)(" + ampm + L")\\b()\\s*",
+        lead + L"\\s*()(" + words + L")\\s?(?:" + clock + L")\\s*(\\d)?(?:" + minute + L")?()()\\s*",
+    };
+  });
 }
 
 OptTM NLPNativeTitleParser::matchEnCompactTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary,

@@ -27,7 +27,7 @@ struct MainReading {
 
 // "12 March 15" reads 15 as a year, "12 March 8p" reads 8 as a time that the
 // time stage must still see; Korean puts the month first.
-void secondLook(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary,
+void secondLook(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary,
                 MainReading& reading) {
   bool isKo = isVocabularyLanguage(vocabulary, L"ko");
   std::wstring source =
@@ -60,8 +60,8 @@ void readMonthOnly(NLPNativeTitleParser& parser, std::tm* record) {
 
 }  // namespace
 
-NLPRecognizeDate readMainMonthDate(NLPNativeTitleParser& parser, const std::wstring& title,
-                                   const PatternMatch& match, Vocabulary& vocabulary) {
+NLPRecognizeDate readMainMonthDate(NLPNativeTitleParser& parser, const std::wstring& title, const PatternMatch& match,
+                                   const Vocabulary& vocabulary) {
   MainReading reading{parser.getEnMonthCalendar(match[7].str(), vocabulary), match[0].str(), match[12].str()};
   if (!reading.yearText.empty()) applyYearText(parser, reading.record.get(), reading.yearText);
   std::wstring dayBefore = match[5].str();

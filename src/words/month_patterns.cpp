@@ -31,7 +31,7 @@ const wchar_t* const kStartWithDay =
 const wchar_t* const kStartWithMonth =
     LR"~(()()?\s*((\s?())()?\s*(?:«OF»)?\s*)?(«decemberFirstMonths»)(\s?(3[0-1]|[0-2]?[0-9]))?(«DAY_END»)?,?( *(\d{4}))?)~";
 
-PatternPieces monthWords(Vocabulary& vocabulary) {
+PatternPieces monthWords(const Vocabulary& vocabulary) {
   bool isPt = isVocabularyLanguage(vocabulary, L"pt");
   return {{L"JANUARY", vocabulary[JANUARY]},
           {L"FEBRUARY", vocabulary[FEBRUARY]},
@@ -48,20 +48,20 @@ PatternPieces monthWords(Vocabulary& vocabulary) {
 }
 
 // Russian and Korean month words take no border at their end.
-std::wstring borderedMonthList(const wchar_t* list, Vocabulary& vocabulary) {
+std::wstring borderedMonthList(const wchar_t* list, const Vocabulary& vocabulary) {
   std::wstring text = fillPieces(list, monthWords(vocabulary));
   bool plain = isVocabularyLanguage(vocabulary, L"ru") || isVocabularyLanguage(vocabulary, L"ko");
   return plain ? text : addWordBorderInEndWithOutReg(text);
 }
 
-std::wstring aprilWord(Vocabulary& vocabulary) {
+std::wstring aprilWord(const Vocabulary& vocabulary) {
   if (isVocabularyLanguage(vocabulary, L"fr")) return kFrenchApril;
   if (isVocabularyLanguage(vocabulary, L"en")) return kEnglishApril;
   if (isVocabularyLanguage(vocabulary, L"ru")) return addWordBorderInEnd(vocabulary[APRIL]);
   return addWordBorderInStartAndEnd(vocabulary[APRIL], false);
 }
 
-std::wstring mainMonths(Vocabulary& vocabulary) {
+std::wstring mainMonths(const Vocabulary& vocabulary) {
   bool isFr = isVocabularyLanguage(vocabulary, L"fr");
   PatternPieces pieces = monthWords(vocabulary);
   pieces[L"aprilWord"] = aprilWord(vocabulary);
@@ -74,7 +74,7 @@ std::wstring mainMonths(Vocabulary& vocabulary) {
 
 }  // namespace
 
-bool isVocabularyLanguage(Vocabulary& vocabulary, const wchar_t* code) {
+bool isVocabularyLanguage(const Vocabulary& vocabulary, const wchar_t* code) {
   return vocabulary[LOCAL].find(code) != std::wstring::npos;
 }
 

@@ -23,6 +23,6 @@ const std::wstring& getEnMonthOrdinalDayPattern(Vocabulary vocabulary);
 const std::wstring& getEnMonthDayFirstPattern(Vocabulary vocabulary);
 
 // Whether the vocabulary's language code holds the two letters.
-bool isVocabularyLanguage(Vocabulary& vocabulary, const wchar_t* code);
+bool isVocabularyLanguage(const Vocabulary& vocabulary, const wchar_t* code);
 
 }  // namespace nlpdate

@@ -32,7 +32,7 @@ void rollClockForward(NLPNativeTitleParser& parser, std::tm* record) {
 }  // namespace
 
 NLPRecognizeDate readMonthWithClock(NLPNativeTitleParser& parser, const PatternMatch& match,
-                                    const MonthClockGroups& groups, Vocabulary& vocabulary) {
+                                    const MonthClockGroups& groups, const Vocabulary& vocabulary) {
   TMPtr record = parser.getEnMonthCalendar(match[groups.month].str(), vocabulary);
   record->tm_mday = parser.translateNum(match[groups.day].str());
   record->tm_hour = parser.translateNum(match[groups.hour].str());
@@ -54,7 +54,8 @@ NLPRecognizeDate readOrdinalDay(NLPNativeTitleParser& parser, const PatternMatch
 }
 
 // No roll forward here: the date stands as written.
-NLPRecognizeDate readDayFirstMonth(NLPNativeTitleParser& parser, const PatternMatch& match, Vocabulary& vocabulary) {
+NLPRecognizeDate readDayFirstMonth(NLPNativeTitleParser& parser, const PatternMatch& match,
+                                   const Vocabulary& vocabulary) {
   TMPtr record = parser.getEnMonthCalendar(match[2].str(), vocabulary);
   if (!match[1].str().empty()) record->tm_mday = parser.translateNum(match[1].str());
   if (!match[3].str().empty()) record->tm_year = parser.translateNum(match[3].str()) - 1900;

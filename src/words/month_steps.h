@@ -18,10 +18,11 @@ struct MonthClockGroups {
 };
 
 NLPRecognizeDate readMonthWithClock(NLPNativeTitleParser& parser, const PatternMatch& match,
-                                    const MonthClockGroups& groups, Vocabulary& vocabulary);
-NLPRecognizeDate readMainMonthDate(NLPNativeTitleParser& parser, const std::wstring& title,
-                                   const PatternMatch& match, Vocabulary& vocabulary);
+                                    const MonthClockGroups& groups, const Vocabulary& vocabulary);
+NLPRecognizeDate readMainMonthDate(NLPNativeTitleParser& parser, const std::wstring& title, const PatternMatch& match,
+                                   const Vocabulary& vocabulary);
 NLPRecognizeDate readOrdinalDay(NLPNativeTitleParser& parser, const PatternMatch& match);
-NLPRecognizeDate readDayFirstMonth(NLPNativeTitleParser& parser, const PatternMatch& match, Vocabulary& vocabulary);
+NLPRecognizeDate readDayFirstMonth(NLPNativeTitleParser& parser, const PatternMatch& match,
+                                   const Vocabulary& vocabulary);
 
 }  // namespace nlpdate

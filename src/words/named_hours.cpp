@@ -13,7 +13,7 @@ namespace nlpdate {
 namespace {
 
 // Latin words get word borders; in Portuguese every word gets a leading one.
-const std::wstring& morningWords(Vocabulary& vocabulary) {
+const std::wstring& morningWords(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     const std::wstring value = vocabulary[MORNING];
     if (value.empty()) return value;

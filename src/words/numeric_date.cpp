@@ -56,7 +56,7 @@ std::vector<NumericStep> numericSteps(bool monthFirst) {
   return steps;
 }
 
-const PatternPieces& numericPieces(Vocabulary& vocabulary) {
+const PatternPieces& numericPieces(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> PatternPieces {
     return {{L"ON_BY", vocabulary[ON_BY]}, {L"DATE_DIVIDER", vocabulary[DATE_DIVIDER]},
             {L"NEXT", vocabulary[NEXT]},   {L"MONTH", vocabulary[MONTH]},
@@ -93,7 +93,7 @@ TMPtr readFields(NLPNativeTitleParser& parser, const PatternMatch& match, const 
   return record;
 }
 
-TMPtr readRelative(NLPNativeTitleParser& parser, const PatternMatch& match, Vocabulary& vocabulary) {
+TMPtr readRelative(NLPNativeTitleParser& parser, const PatternMatch& match, const Vocabulary& vocabulary) {
   TMPtr record = parser.getDefaultTM();
   parser.setTMToDefaultTime(record.get());
   std::wstring unit = toLowerCase(match[2].str());

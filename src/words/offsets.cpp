@@ -13,7 +13,7 @@ namespace nlpdate {
 
 namespace {
 
-const std::wstring& allUnits(Vocabulary& v) {
+const std::wstring& allUnits(const Vocabulary& v) {
   return keptFor(v, [&]() -> std::wstring {
     return v[MINUTE] + L"|" + v[HOUR] + L"|" + v[DAY] + L"|" + v[WEEK] + L"|" + v[MONTH] + L"|" + v[YEAR];
   });
@@ -28,7 +28,7 @@ struct OffsetPattern {
   bool wordNumbers;  // counts may be number words, read with matchEnglishNum
 };
 
-const std::vector<OffsetPattern>& offsetPatterns(Vocabulary& v) {
+const std::vector<OffsetPattern>& offsetPatterns(const Vocabulary& v) {
   return keptFor(v, [&]() -> std::vector<OffsetPattern> {
     const std::wstring words = numberWordAlternation(v);
     return {

@@ -36,7 +36,7 @@ const std::vector<const std::wstring*>& numberWordKeys() {
   return keys;
 }
 
-const PatternPieces& offsetPieces(Vocabulary& vocabulary) {
+const PatternPieces& offsetPieces(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> PatternPieces {
     std::wstring numbers;
     for (const std::wstring* key : numberWordKeys()) numbers += (numbers.empty() ? L"" : L"|") + vocabulary[*key];
@@ -50,7 +50,7 @@ const PatternPieces& offsetPieces(Vocabulary& vocabulary) {
 // The hour of one side: a pm word adds 12 below 13, so 12 pm reads 24 and
 // rolls into the next day (kept as it is); an am word changes nothing.
 int afterHour(NLPNativeTitleParser& parser, const std::wstring& hourText, const std::wstring& meridiemText,
-              Vocabulary& vocabulary) {
+              const Vocabulary& vocabulary) {
   int hour = parser.translateNum(hourText);
   if (hour < 13 && !meridiemText.empty() && containStr(toLowerCase(meridiemText), vocabulary[PM])) hour += 12;
   return hour;

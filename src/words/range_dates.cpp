@@ -54,12 +54,12 @@ struct NumericPieces {
   std::vector<std::wstring> times;
 };
 
-std::wstring fillDivider(const wchar_t* text, Vocabulary& vocabulary) {
+std::wstring fillDivider(const wchar_t* text, const Vocabulary& vocabulary) {
   return fillPieces(text, {{L"DATE_DIVIDER", vocabulary[DATE_DIVIDER]}});
 }
 
 std::wstring formText(const wchar_t* form, const NumericPieces& pieces, const std::wstring& time,
-                     Vocabulary& vocabulary) {
+                      const Vocabulary& vocabulary) {
   PatternPieces all = pieces.pieces;
   all[L"TIME"] = time;
   return fillDivider(fillPieces(form, all).c_str(), vocabulary);
@@ -67,7 +67,7 @@ std::wstring formText(const wchar_t* form, const NumericPieces& pieces, const st
 
 // The first match of a form that holds «TIME», trying each clock pattern in turn.
 bool searchTimeForm(const std::wstring& title, const wchar_t* form, const NumericPieces& pieces,
-                   Vocabulary& vocabulary, PatternMatch& match) {
+                    const Vocabulary& vocabulary, PatternMatch& match) {
   for (const std::wstring& time : pieces.times) {
     if (searchRange(title, formText(form, pieces, time, vocabulary), PatternCase::Sensitive, match)) return true;
   }
@@ -87,7 +87,7 @@ void applyRangeYear(NLPNativeTitleParser& parser, std::tm* record, std::wstring 
 }
 
 void setRangeMonthDay(NLPNativeTitleParser& parser, std::tm* record, const std::wstring& month,
-                             const std::wstring& day) {
+                      const std::wstring& day) {
   record->tm_mon = parser.translateNum(month) - 1;
   record->tm_mday = parser.translateNum(day);
 }
@@ -99,7 +99,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDateDuration(std::w
 }
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration(const std::wstring& title,
-                                                                                 Vocabulary& vocabulary) {
+                                                                                 const Vocabulary& vocabulary) {
   NumericPieces pieces{{{L"YMD", kRangeYearMonthDay},
                         {L"MDY", kRangeMonthDayYear},
                         {L"MD", kRangeMonthDay},

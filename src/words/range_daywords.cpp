@@ -48,7 +48,7 @@ enum class DayWordUse { Time, Date };
 // The first day word on the start. With a clock time it moves the day; in the
 // date rows it moves the year instead, a slip of one field that is kept as it is.
 void applyFirstDayWord(NLPNativeTitleParser& parser, std::tm* start, const std::wstring& word,
-                       Vocabulary& vocabulary, DayWordUse use) {
+                       const Vocabulary& vocabulary, DayWordUse use) {
   const bool date = use == DayWordUse::Date;
   if (containStr(word, vocabulary[YESTERDAY])) {
     if (date) {
@@ -80,8 +80,8 @@ void applyFirstDayWord(NLPNativeTitleParser& parser, std::tm* start, const std::
 }
 
 // The second day word moves the end's day.
-void applySecondDayWord(NLPNativeTitleParser& parser, std::tm* end, const std::wstring& word, Vocabulary& vocabulary,
-                        bool withYesterday) {
+void applySecondDayWord(NLPNativeTitleParser& parser, std::tm* end, const std::wstring& word,
+                        const Vocabulary& vocabulary, bool withYesterday) {
   if (withYesterday && containStr(word, vocabulary[YESTERDAY])) {
     end->tm_mday -= 1;
   } else if (containStr(word, vocabulary[TODAY])) {
@@ -98,18 +98,35 @@ void applySecondDayWord(NLPNativeTitleParser& parser, std::tm* end, const std::w
 }  // namespace
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDayWordDuration(const std::wstring& title,
-                                                                             Vocabulary& vocabulary) {
-  PatternPieces pieces = {{L"DAYWORD", getSpecialDayRecognition(vocabulary)},
-                          {L"FLAG", rangeFlag(vocabulary)},
-                          {L"MONTHDATE", getEnMonthRecognition(vocabulary)},
-                          {L"WEEKDAY_RANGE", getDayOfWeekRecog(vocabulary)}};
+                                                                             const Vocabulary& vocabulary) {
+  struct Forms {
+    std::vector<Pattern> timed;
+    Pattern dayWords;
+    Pattern month;
+    Pattern weekday;
+  };
+  const Forms& forms = keptFor(vocabulary, [&] {
+    PatternPieces pieces = {{L"DAYWORD", getSpecialDayRecognition(vocabulary)},
+                            {L"FLAG", rangeFlag(vocabulary)},
+                            {L"MONTHDATE", getEnMonthRecognition(vocabulary)},
+                            {L"WEEKDAY_RANGE", getDayOfWeekRecog(vocabulary)}};
+    Forms built;
+    built.timed = compileForEachTime(*this, vocabulary, PatternCase::Insensitive, [&pieces](const std::wstring& time) {
+      pieces[L"TIME"] = time;
+      return fillPieces(kDayWordTimeRange, pieces);
+    });
+    pieces[L"TIME"] = L"";
+    built.dayWords = compilePattern(fillPieces(kDayWordRange, pieces), PatternCase::Insensitive);
+    built.month = compilePattern(fillPieces(kDayWordMonthRange, pieces), PatternCase::Insensitive);
+    built.weekday = compilePattern(fillPieces(kDayWordWeekDayRange, pieces), PatternCase::Insensitive);
+    return built;
+  });
   PatternMatch match;
   // The seconds of now stay in these rows.
   TMPtr start = getDefaultTM();
 
-  for (const std::wstring& time : getEnTimePattern(vocabulary)) {
-    pieces[L"TIME"] = time;
-    if (!searchRange(title, fillPieces(kDayWordTimeRange, pieces), PatternCase::Insensitive, match)) continue;
+  for (const Pattern& form : forms.timed) {
+    if (!form.search(title, match)) continue;
     applyFirstDayWord(*this, start.get(), toLowerCase(match.str(kFirstWordGroup)), vocabulary, DayWordUse::Time);
     TMPtr end = getTM(static_cast<long>(std::mktime(start.get())));
     if (!match.str(kSecondWordOuterGroup).empty()) {
@@ -135,8 +152,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDayWordDuration(con
     return makeRangeResult(match, start, end, ON_TIME);
   }
 
-  pieces[L"TIME"] = L"";
-  if (searchRange(title, fillPieces(kDayWordRange, pieces), PatternCase::Insensitive, match)) {
+  if (forms.dayWords.search(title, match)) {
     applyFirstDayWord(*this, start.get(), toLowerCase(match.str(kFirstWordGroup)), vocabulary, DayWordUse::Date);
     TMPtr end = getDefaultTM();
     end->tm_hour = 0;
@@ -144,7 +160,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDayWordDuration(con
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (searchRange(title, fillPieces(kDayWordMonthRange, pieces), PatternCase::Insensitive, match)) {
+  if (forms.month.search(title, match)) {
     applyFirstDayWord(*this, start.get(), toLowerCase(match.str(kFirstWordGroup)), vocabulary, DayWordUse::Date);
     TMPtr end = getEnMonthCalendar(match.str(kMonthGroup), vocabulary);
     if (!match.str(kMonthDayBeforeGroup).empty()) {
@@ -164,7 +180,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDayWordDuration(con
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (searchRange(title, fillPieces(kDayWordWeekDayRange, pieces), PatternCase::Insensitive, match)) {
+  if (forms.weekday.search(title, match)) {
     applyFirstDayWord(*this, start.get(), toLowerCase(match.str(kFirstWordGroup)), vocabulary, DayWordUse::Date);
     TMPtr end = getDefaultTM();
     const WeekDay target = translateDayOfWeek(match.str(kWeekDayGroup), end->tm_wday, vocabulary);

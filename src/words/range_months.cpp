@@ -76,18 +76,37 @@ void rollBoth(std::tm* start, std::tm* end, int months, int years) {
 }  // namespace
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonthDuration(std::wstring title, Vocabulary vocabulary) {
-  PatternPieces pieces = {
-      {L"MONTHDATE", getEnMonthRecognition(vocabulary)},
-      {L"FLAG", rangeFlag(vocabulary)},
-      {L"DAYONLY", fillPieces(kRangeDayOnly, {{L"DAY_OF_MONTH_DIGITAL", vocabulary[DAY_OF_MONTH_DIGITAL]},
-                                              {L"DAY_END", vocabulary[DAY_END]},
-                                              {L"FOUR_OR_TWO_YEAR_DIGITAL", vocabulary[FOUR_OR_TWO_YEAR_DIGITAL]}})}};
-  const std::vector<std::wstring> times = getEnTimePattern(vocabulary);
+  struct Forms {
+    std::vector<Pattern> monthTimed;
+    std::vector<Pattern> dayOnlyTimed;
+    Pattern months;
+    Pattern monthDay;
+  };
+  const Forms& forms = keptFor(vocabulary, [&] {
+    PatternPieces pieces = {
+        {L"MONTHDATE", getEnMonthRecognition(vocabulary)},
+        {L"FLAG", rangeFlag(vocabulary)},
+        {L"DAYONLY", fillPieces(kRangeDayOnly, {{L"DAY_OF_MONTH_DIGITAL", vocabulary[DAY_OF_MONTH_DIGITAL]},
+                                                {L"DAY_END", vocabulary[DAY_END]},
+                                                {L"FOUR_OR_TWO_YEAR_DIGITAL", vocabulary[FOUR_OR_TWO_YEAR_DIGITAL]}})}};
+    auto withTime = [&pieces](const wchar_t* form) {
+      return [&pieces, form](const std::wstring& time) {
+        pieces[L"TIME"] = time;
+        return fillPieces(form, pieces);
+      };
+    };
+    Forms built;
+    built.monthTimed = compileForEachTime(*this, vocabulary, PatternCase::Insensitive, withTime(kMonthTimeRange));
+    built.dayOnlyTimed = compileForEachTime(*this, vocabulary, PatternCase::Insensitive, withTime(kDayOnlyTimeRange));
+    pieces[L"TIME"] = L"";
+    built.months = compilePattern(fillPieces(kMonthRange, pieces), PatternCase::Insensitive);
+    built.monthDay = compilePattern(fillPieces(kMonthDayRange, pieces), PatternCase::Insensitive);
+    return built;
+  });
   PatternMatch match;
 
-  for (const std::wstring& time : times) {
-    pieces[L"TIME"] = time;
-    if (!searchRange(title, fillPieces(kMonthTimeRange, pieces), PatternCase::Insensitive, match)) continue;
+  for (const Pattern& form : forms.monthTimed) {
+    if (!form.search(title, match)) continue;
     // A numeric date's tail must not pass for a month range.
     const long at = match.position(0);
     if (at > 0 && (title[at - 1] == L'/' || title[at - 1] == L'-')) continue;
@@ -98,8 +117,8 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonthDuration(std::
     setYearText(*this, start.get(), match.str(kTimeFirstYearGroup));
     const std::wstring secondMonth = match.str(kTimeSecondMonthGroup);
     TMPtr end = secondMonth.empty() ? copyRangeRecord(start.get()) : getEnMonthCalendar(secondMonth, vocabulary);
-    end->tm_mday = dayOf(*this, match.str(kTimeSecondDayBehindGroup), match.str(kTimeSecondDayBeforeGroup),
-                         end->tm_mday);
+    end->tm_mday =
+        dayOf(*this, match.str(kTimeSecondDayBehindGroup), match.str(kTimeSecondDayBeforeGroup), end->tm_mday);
     setYearText(*this, end.get(), match.str(kTimeSecondYearGroup));
     const bool noMonth = match.str(kTimeFirstMonthGroup).empty() && secondMonth.empty();
     if (isBeforeToday(end.get())) rollBoth(start.get(), end.get(), noMonth ? 1 : 0, noMonth ? 0 : 1);
@@ -108,9 +127,8 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonthDuration(std::
     return makeRangeResult(match, start, end, ON_TIME);
   }
 
-  for (const std::wstring& time : times) {
-    pieces[L"TIME"] = time;
-    if (!searchRange(title, fillPieces(kDayOnlyTimeRange, pieces), PatternCase::Insensitive, match)) continue;
+  for (const Pattern& form : forms.dayOnlyTimed) {
+    if (!form.search(title, match)) continue;
     TMPtr start = getDefaultTM();
     TMPtr end = getDefaultTM();
     start->tm_mday = translateNum(match.str(kDayOnlyFirstDayGroup));
@@ -118,17 +136,16 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonthDuration(std::
     end->tm_mday = dayOf(*this, match.str(kDayOnlySecondDayGroup), match.str(kDayOnlyFirstDayGroup), end->tm_mday);
     setYearText(*this, start.get(), match.str(kDayOnlyFirstYearGroup));
     setYearText(*this, end.get(), match.str(kDayOnlySecondYearGroup));
-    setRangeClock(start.get(), readRangeClock(*this, match.str(kDayOnlyStartHourGroup),
-                                              match.str(kDayOnlyStartMinuteGroup),
-                                              match.str(kDayOnlyStartMeridiemGroup), vocabulary));
+    setRangeClock(start.get(),
+                  readRangeClock(*this, match.str(kDayOnlyStartHourGroup), match.str(kDayOnlyStartMinuteGroup),
+                                 match.str(kDayOnlyStartMeridiemGroup), vocabulary));
     setRangeClock(end.get(), readRangeClock(*this, match.str(kDayOnlyEndHourGroup), match.str(kDayOnlyEndMinuteGroup),
                                             match.str(kDayOnlyEndMeridiemGroup), vocabulary));
     if (match.str(kDayOnlySecondYearGroup).empty() && isBeforeToday(end.get())) rollBoth(start.get(), end.get(), 1, 0);
     return makeRangeResult(match, start, end, ON_TIME);
   }
 
-  pieces[L"TIME"] = L"";
-  if (searchRange(title, fillPieces(kMonthRange, pieces), PatternCase::Insensitive, match)) {
+  if (forms.months.search(title, match)) {
     TMPtr start = getEnMonthCalendar(match.str(kFirstMonthGroup), vocabulary);
     // Here the day before the month wins.
     start->tm_mday = dayOf(*this, match.str(kFirstDayBeforeGroup), match.str(kFirstDayBehindGroup), 1);
@@ -141,7 +158,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonthDuration(std::
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (searchRange(title, fillPieces(kMonthDayRange, pieces), PatternCase::Insensitive, match)) {
+  if (forms.monthDay.search(title, match)) {
     TMPtr start = getEnMonthCalendar(match.str(kDayRangeMonthGroup), vocabulary);
     start->tm_mday = translateNum(match.str(kDayRangeFirstDayGroup));
     const std::wstring year = match.str(kDayRangeYearGroup);

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/title_parser.h"
+#include "vocabulary/derived.h"
 #include "vocabulary/pattern_kit.h"
 
 namespace nlpdate {
@@ -33,9 +34,8 @@ std::wstring rangeFlag(const Vocabulary& vocabulary);
 // Hour, minute and am/pm of one clock reading: pm adds 12 below 12, am turns 12
 // into 0; an empty minute reads 0. With hourLimit set, the am/pm word counts
 // only when the hour is at most that limit.
-RangeClock readRangeClock(NLPNativeTitleParser& parser, const std::wstring& hourText,
-                          const std::wstring& minuteText, const std::wstring& meridiemText,
-                          const Vocabulary& vocabulary, int hourLimit = 1000);
+RangeClock readRangeClock(NLPNativeTitleParser& parser, const std::wstring& hourText, const std::wstring& minuteText,
+                          const std::wstring& meridiemText, const Vocabulary& vocabulary, int hourLimit = 1000);
 
 // Sets hour and minute of a record from a clock reading.
 void setRangeClock(std::tm* record, const RangeClock& clock);
@@ -45,6 +45,17 @@ bool rangeIsAfter(std::tm* first, std::tm* second);
 
 // A fresh record of the same moment, normalised.
 TMPtr copyRangeRecord(const std::tm* record);
+
+// One compiled pattern per clock pattern of the vocabulary, in their order:
+// fill turns a clock pattern into the text of the form.
+template <class Fill>
+std::vector<Pattern> compileForEachTime(NLPNativeTitleParser& parser, const Vocabulary& vocabulary, PatternCase mode,
+                                        Fill fill) {
+  std::vector<Pattern> forms;
+  for (const std::wstring& time : parser.getEnTimePattern(vocabulary))
+    forms.push_back(compilePattern(fill(time), mode));
+  return forms;
+}
 
 // The first match of text in title; false when there is none.
 bool searchRange(const std::wstring& title, const std::wstring& text, PatternCase mode, PatternMatch& match);

@@ -17,11 +17,14 @@ constexpr int kEndMeridiemGroup = 12;
 }  // namespace
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnTimeDuration(std::wstring title, Vocabulary vocabulary) {
-  const std::wstring flag = rangeFlag(vocabulary);
+  const std::vector<Pattern>& forms = keptFor(vocabulary, [&] {
+    return compileForEachTime(*this, vocabulary, PatternCase::Sensitive,
+                              [flag = rangeFlag(vocabulary)](const std::wstring& time) { return time + flag + time; });
+  });
   PatternMatch match;
   bool found = false;
-  for (const std::wstring& time : getEnTimePattern(vocabulary)) {
-    if ((found = searchRange(title, time + flag + time, PatternCase::Sensitive, match))) break;
+  for (const Pattern& form : forms) {
+    if ((found = form.search(title, match))) break;
   }
   if (!found) return std::nullopt;
 

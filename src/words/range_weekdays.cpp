@@ -47,7 +47,7 @@ struct WeekWords {
 };
 
 // +7 for a next word, -7 for a last word, 0 otherwise.
-int weekShift(const std::wstring& before, const std::wstring& after, bool afterCounts, Vocabulary& vocabulary) {
+int weekShift(const std::wstring& before, const std::wstring& after, bool afterCounts, const Vocabulary& vocabulary) {
   const std::wstring first = toLowerCase(before);
   const std::wstring second = afterCounts ? toLowerCase(after) : L"";
   if (containStr(first, vocabulary[NEXT]) || (!second.empty() && containStr(second, vocabulary[NEXT]))) return kWeek;
@@ -56,7 +56,7 @@ int weekShift(const std::wstring& before, const std::wstring& after, bool afterC
 }
 
 // The first day's words decide when there are any, and then the end is left alone.
-void applyWeekWords(std::tm* start, std::tm* end, const WeekWords& words, Vocabulary& vocabulary) {
+void applyWeekWords(std::tm* start, std::tm* end, const WeekWords& words, const Vocabulary& vocabulary) {
   if (!words.before1.empty() || !words.after1.empty()) {
     start->tm_mday += weekShift(words.before1, words.after1, words.afterCounts, vocabulary);
   } else if (!words.before2.empty() || !words.after2.empty()) {
@@ -75,7 +75,7 @@ void rollWeekRange(NLPNativeTitleParser& parser, std::tm* start, std::tm* end, c
 }
 
 int readWeekHour(NLPNativeTitleParser& parser, const std::wstring& hourText, const std::wstring& meridiemText,
-                 Vocabulary& vocabulary) {
+                 const Vocabulary& vocabulary) {
   int hour = parser.translateNum(hourText);
   if (hour >= 13 || meridiemText.empty()) return hour;
   return readRangeClock(parser, hourText, L"", toLowerCase(meridiemText), vocabulary, kMeridiemHourLimit).hour;
@@ -84,23 +84,34 @@ int readWeekHour(NLPNativeTitleParser& parser, const std::wstring& hourText, con
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnWeekDayDuration(std::wstring title,
                                                                              Vocabulary vocabulary) {
-  PatternPieces pieces = {{L"day", getDayOfWeekRecog(vocabulary)}, {L"DURATION", rangeFlag(vocabulary)}};
+  struct Forms {
+    std::vector<Pattern> timed;
+    Pattern plain;
+  };
+  const Forms& forms = keptFor(vocabulary, [&] {
+    PatternPieces pieces = {{L"day", getDayOfWeekRecog(vocabulary)}, {L"DURATION", rangeFlag(vocabulary)}};
+    Forms built;
+    built.timed = compileForEachTime(*this, vocabulary, PatternCase::Insensitive, [&pieces](const std::wstring& time) {
+      pieces[L"time"] = time;
+      return fillPieces(kWeekDayTimeRange, pieces);
+    });
+    pieces[L"time"] = L"";
+    built.plain = compilePattern(fillPieces(kWeekDayRange, pieces), PatternCase::Insensitive);
+    return built;
+  });
   PatternMatch match;
-  for (const std::wstring& time : getEnTimePattern(vocabulary)) {
-    pieces[L"time"] = time;
-    if (!searchRange(title, fillPieces(kWeekDayTimeRange, pieces), PatternCase::Insensitive, match)) continue;
+  for (const Pattern& form : forms.timed) {
+    if (!form.search(title, match)) continue;
     TMPtr start = getDefaultTM();
     TMPtr end = getDefaultTM();
-    setDayOfWeek(start.get(), translateDayOfWeek(match.str(kTimeFirstDayGroup), start->tm_wday, vocabulary),
-                 startDay);
+    setDayOfWeek(start.get(), translateDayOfWeek(match.str(kTimeFirstDayGroup), start->tm_wday, vocabulary), startDay);
     if (match.str(kTimeSecondDayGroup).empty()) {
       end = copyRangeRecord(start.get());
     } else {
-      setDayOfWeek(end.get(), translateDayOfWeek(match.str(kTimeSecondDayGroup), end->tm_wday, vocabulary),
-                   startDay);
+      setDayOfWeek(end.get(), translateDayOfWeek(match.str(kTimeSecondDayGroup), end->tm_wday, vocabulary), startDay);
     }
-    start->tm_hour = readWeekHour(*this, match.str(kTimeStartHourGroup), match.str(kTimeStartMeridiemGroup),
-                                  vocabulary);
+    start->tm_hour =
+        readWeekHour(*this, match.str(kTimeStartHourGroup), match.str(kTimeStartMeridiemGroup), vocabulary);
     start->tm_min = translateNum(match.str(kTimeStartMinuteGroup));
     end->tm_hour = readWeekHour(*this, match.str(kTimeEndHourGroup), match.str(kTimeEndMeridiemGroup), vocabulary);
     end->tm_min = translateNum(match.str(kTimeEndMinuteGroup));
@@ -111,8 +122,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnWeekDayDuration(std
     return makeRangeResult(match, start, end, ON_TIME);
   }
 
-  pieces[L"time"] = L"";
-  if (!searchRange(title, fillPieces(kWeekDayRange, pieces), PatternCase::Insensitive, match)) return std::nullopt;
+  if (!forms.plain.search(title, match)) return std::nullopt;
   // Both keep the time of day of now.
   TMPtr start = getDefaultTM();
   TMPtr end = getDefaultTM();

@@ -17,7 +17,7 @@ bool isWeekend(WeekDay day) { return day == Saturday || day == Sunday; }
 
 // Weekday, work-day and weekend words count wherever they stand in the title,
 // whatever the pattern that matched.
-void applyDayKindWords(const std::wstring& lowerTitle, StringRRule& rule, std::tm* record, Vocabulary& v) {
+void applyDayKindWords(const std::wstring& lowerTitle, StringRRule& rule, std::tm* record, const Vocabulary& v) {
   if (containStr(lowerTitle, v[WEEKDAY]) || containStr(lowerTitle, v[WORKDAY]) ||
       (containStr(lowerTitle, v[WORKING]) && containStr(lowerTitle, v[DAY]))) {
     rule.setWkSt(Monday);
@@ -31,7 +31,7 @@ void applyDayKindWords(const std::wstring& lowerTitle, StringRRule& rule, std::t
 }
 
 // A part of the day named in the title fixes the hour of a daily rule.
-void applyDaily(NLPNativeTitleParser& parser, const std::wstring& lowerTitle, std::tm* record, Vocabulary& v) {
+void applyDaily(NLPNativeTitleParser& parser, const std::wstring& lowerTitle, std::tm* record, const Vocabulary& v) {
   struct PartOfDay {
     const std::wstring& key;
     int hour;
@@ -55,7 +55,7 @@ void applyDaily(NLPNativeTitleParser& parser, const std::wstring& lowerTitle, st
   mkTM(record);
 }
 
-std::list<NLPWeekdayNum> namedWeekday(const std::wstring& word, Vocabulary& v) {
+std::list<NLPWeekdayNum> namedWeekday(const std::wstring& word, const Vocabulary& v) {
   const std::wstring lower = toLowerCase(word);
   const std::pair<const std::wstring*, WeekDay> days[] = {
       {&MONDAY, Monday}, {&TUESDAY, Tuesday},   {&WEDNESDAY, Wednesday}, {&THURSDAY, Thursday},
@@ -68,7 +68,7 @@ std::list<NLPWeekdayNum> namedWeekday(const std::wstring& word, Vocabulary& v) {
 
 // Only the weekday-name row has a third group and a filled second one; the
 // other weekly rows keep what the day-kind words set.
-void applyWeekly(const PatternMatch& match, StringRRule& rule, std::tm* record, int today, Vocabulary& v) {
+void applyWeekly(const PatternMatch& match, StringRRule& rule, std::tm* record, int today, const Vocabulary& v) {
   if (match.size() - 1 < 3 || match[2].str().empty()) return;
   rule.setWkSt(Monday);
   const std::wstring word = match[2].str();
@@ -77,7 +77,7 @@ void applyWeekly(const PatternMatch& match, StringRRule& rule, std::tm* record, 
   while (getWeekDay(record) != target) record->tm_mday += 1;
 }
 
-void applyYearly(NLPNativeTitleParser& parser, const PatternMatch& match, TMPtr& record, Vocabulary& v) {
+void applyYearly(NLPNativeTitleParser& parser, const PatternMatch& match, TMPtr& record, const Vocabulary& v) {
   if (match[3].str().empty()) return;
   record = parser.getEnMonthCalendar(match[4].str(), v);
   record->tm_mday = parser.translateNum(match[6].str());
@@ -88,7 +88,7 @@ void applyYearly(NLPNativeTitleParser& parser, const PatternMatch& match, TMPtr&
 
 }  // namespace
 
-bool matchRepeatEvery(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
+bool matchRepeatEvery(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
   for (const auto& [pattern, frequency] : repeatEveryPatterns(vocabulary)) {
     PatternMatch match;
     if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;
@@ -103,11 +103,20 @@ bool matchRepeatEvery(NLPNativeTitleParser& parser, const std::wstring& title, V
     const std::wstring lowerTitle = toLowerCase(title);
     applyDayKindWords(lowerTitle, rule, record.get(), vocabulary);
     switch (frequency) {
-      case NLPFrequency::DAILY: applyDaily(parser, lowerTitle, record.get(), vocabulary); break;
-      case NLPFrequency::WEEKLY: applyWeekly(match, rule, record.get(), today, vocabulary); break;
-      case NLPFrequency::MONTHLY: applyMonthlyRepeat(parser, match, rule, record.get(), vocabulary); break;
-      case NLPFrequency::YEARLY: applyYearly(parser, match, record, vocabulary); break;
-      default: break;
+      case NLPFrequency::DAILY:
+        applyDaily(parser, lowerTitle, record.get(), vocabulary);
+        break;
+      case NLPFrequency::WEEKLY:
+        applyWeekly(match, rule, record.get(), today, vocabulary);
+        break;
+      case NLPFrequency::MONTHLY:
+        applyMonthlyRepeat(parser, match, rule, record.get(), vocabulary);
+        break;
+      case NLPFrequency::YEARLY:
+        applyYearly(parser, match, record, vocabulary);
+        break;
+      default:
+        break;
     }
     storeRepeat(parser, rule, match[0].str(), record.get());
     return true;

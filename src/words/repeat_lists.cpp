@@ -22,7 +22,7 @@ std::list<NLPWeekdayNum> weekdaysInWeekOrder(const std::set<WeekDay>& named) {
   return days;
 }
 
-void readWeekdayList(const PatternMatch& match, StringRRule& rule, std::tm* record, Vocabulary& vocabulary) {
+void readWeekdayList(const PatternMatch& match, StringRRule& rule, std::tm* record, const Vocabulary& vocabulary) {
   rule.setFreq(NLPFrequency::WEEKLY);
   rule.setWkSt(Monday);
   const int today = record->tm_wday;
@@ -37,8 +37,7 @@ void readWeekdayList(const PatternMatch& match, StringRRule& rule, std::tm* reco
   }
 }
 
-void readMonthDayList(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule,
-                      std::tm* record) {
+void readMonthDayList(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule, std::tm* record) {
   rule.setFreq(NLPFrequency::MONTHLY);
   std::list<int> days = {parser.translateNum(match[12].str())};
   if (!match[15].str().empty()) {
@@ -52,7 +51,7 @@ void readMonthDayList(NLPNativeTitleParser& parser, const PatternMatch& match, S
 
 }  // namespace
 
-bool matchRepeatList(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
+bool matchRepeatList(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
   PatternMatch match;
   if (!compilePattern(repeatListPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     return false;
@@ -71,7 +70,7 @@ bool matchRepeatList(NLPNativeTitleParser& parser, const std::wstring& title, Vo
   return true;
 }
 
-bool matchRepeatLastDay(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
+bool matchRepeatLastDay(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
   PatternMatch match;
   if (!compilePattern(repeatLastDayPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
     return false;

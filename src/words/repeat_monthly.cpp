@@ -14,7 +14,7 @@ namespace {
 
 // The month word's calendar, on the given day at midnight.
 TMPtr monthDayRecord(NLPNativeTitleParser& parser, const std::wstring& month, const std::wstring& day,
-                     Vocabulary& v) {
+                     const Vocabulary& v) {
   TMPtr other = parser.getEnMonthCalendar(month, v);
   clearClock(other.get());
   other->tm_mday = parser.translateNum(day);
@@ -33,7 +33,7 @@ void rollMonthDay(NLPNativeTitleParser& parser, const std::wstring& month, std::
 }
 
 void applyM2(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule, std::tm* record,
-             Vocabulary& v) {
+             const Vocabulary& v) {
   rule.setInterval(1);
   const std::wstring month = match[5].str().empty() ? match[11].str() : match[5].str();
   if (!month.empty()) rule.setFreq(NLPFrequency::YEARLY);
@@ -67,7 +67,7 @@ void nthWeekdayOfMonth(std::tm* record, WeekDay target, int ordinal) {
 }
 
 void applyM1Weekday(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule, std::tm* record,
-                    int today, Vocabulary& v) {
+                    int today, const Vocabulary& v) {
   const WeekDay target = translateDayOfWeek(match[17].str(), today, v);
   int ordinal;
   if (containStr(match[16].str(), v[LAST])) {
@@ -87,8 +87,8 @@ void applyM1Weekday(NLPNativeTitleParser& parser, const PatternMatch& match, Str
   rule.setByDay({NLPWeekdayNum(ordinal, target)});
 }
 
-void applyM1(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule, std::tm* record,
-             int today, Vocabulary& v) {
+void applyM1(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule, std::tm* record, int today,
+             const Vocabulary& v) {
   if (!match[3].str().empty()) {
     rule.setByMonthDay({-1});
     record->tm_mday = 0;
@@ -116,8 +116,8 @@ void applyM1(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRul
 
 }  // namespace
 
-void applyMonthlyRepeat(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule,
-                        std::tm* record, Vocabulary& vocabulary) {
+void applyMonthlyRepeat(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule, std::tm* record,
+                        const Vocabulary& vocabulary) {
   const int today = parser.getDefaultTM()->tm_wday;
   // Group 1 holds the word for every only in M2; in M1 it is a day number.
   const std::wstring first = match[1].str();

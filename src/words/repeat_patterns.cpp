@@ -10,56 +10,56 @@ namespace nlpdate {
 
 namespace {
 
-std::wstring weekdays(Vocabulary& v) {
+std::wstring weekdays(const Vocabulary& v) {
   return v[MONDAY] + L"|" + v[TUESDAY] + L"|" + v[WEDNESDAY] + L"|" + v[THURSDAY] + L"|" + v[FRIDAY] + L"|" +
          v[SATURDAY] + L"|" + v[SUNDAY];
 }
 
-std::wstring months(Vocabulary& v) {
+std::wstring months(const Vocabulary& v) {
   return v[JANUARY] + L"|" + v[FEBRUARY] + L"|" + v[MARCH] + L"|" + v[APRIL] + L"|" + v[MAY] + L"|" + v[JUNE] + L"|" +
          v[JULY] + L"|" + v[AUGUST] + L"|" + v[SEPTEMBER] + L"|" + v[OCTOBER] + L"|" + v[NOVEMBER] + L"|" + v[DECEMBER];
 }
 
 // The empty last alternative is deliberate: a weekday part may carry no
 // ordinal.
-std::wstring ordinals(Vocabulary& v) {
+std::wstring ordinals(const Vocabulary& v) {
   return v[FIRST] + L"|" + v[SECOND] + L"|" + v[THIRD] + L"|" + v[FOURTH] + L"|" + v[FIFTH] + L"|" + v[LAST] + L"|";
 }
 
-std::wstring bordered(Vocabulary& v, const std::wstring& key) { return addWordBorderInStartAndEnd(v[key]); }
+std::wstring bordered(const Vocabulary& v, const std::wstring& key) { return addWordBorderInStartAndEnd(v[key]); }
 
 // "\b(EVERY) ?\w{0,6} ?(WORD)\s?": the daily rows.
-std::wstring dailyRow(Vocabulary& v, const std::wstring& key) {
+std::wstring dailyRow(const Vocabulary& v, const std::wstring& key) {
   return L"\\b(" + v[EVERY] + L") ?\\w{0,6} ?(" + bordered(v, key) + L")\\s?";
 }
 
 // "\b(EVERY) \w{0,6} ?(WORD)\s?": most weekly rows.
-std::wstring weeklyRow(Vocabulary& v, const std::wstring& word) {
+std::wstring weeklyRow(const Vocabulary& v, const std::wstring& word) {
   return L"\\b(" + v[EVERY] + L") \\w{0,6} ?(" + word + L")\\s?";
 }
 
-std::wstring monthPatternM1(Vocabulary& v) {
+std::wstring monthPatternM1(const Vocabulary& v) {
   return L"\\b(\\d{1,2})?(" + v[DAY_END] + L")?(" + v[LAST] + L")?\\s*(" + v[DAY_OF] + L")?\\s*(" +
          v[AT_THE_BEGINNING_OF] + L")?\\s*(" + v[EVERY] + L") \\w{0,6} ?(" + v[MONTH] + L")\\s*((" + v[ON] + L")\\s*(" +
          months(v) + L")?(\\s?(" + v[DAY_OF_MONTH_DIGITAL] + L"))(" + v[DAY_END] + L")?)?\\s*((" + v[ON] +
          L")\\s*\\w{0,6}?\\s*(" + ordinals(v) + L")\\s*(" + weekdays(v) + L"))?\\s?";
 }
 
-std::wstring monthPatternM2(Vocabulary& v) {
+std::wstring monthPatternM2(const Vocabulary& v) {
   return L"\\b(" + v[EVERY] + L")\\s*(((" + v[ON] + L")?)\\s*(" + months(v) + L")?(\\s?(" + v[DAY_OF_MONTH_DIGITAL] +
          L"))(" + v[DAY_END] + L")?)\\s*((" + v[ON] + L")?\\s*(" + months(v) + L")?)";
 }
 
 // ON stands without parentheses of its own here, so only its last
 // alternative carries the date part behind it; kept as it is.
-std::wstring yearPattern(Vocabulary& v) {
+std::wstring yearPattern(const Vocabulary& v) {
   return L"\\b(" + v[EVERY] + L") \\w{0,6} ?(" + v[YEAR] + L")\\s*(" + v[ON] + L"\\s*(" + months(v) + L")?(\\s?(" +
          v[DAY_OF_MONTH_DIGITAL] + L"))(" + v[DAY_END] + L")?)?\\s?";
 }
 
 }  // namespace
 
-const std::wstring& repeatListPattern(Vocabulary& v) {
+const std::wstring& repeatListPattern(const Vocabulary& v) {
   return keptFor(v, [&]() -> std::wstring {
     const std::wstring days = weekdays(v);
     return L"((" + v[EVERY] + L")\\s+(" + days + L")\\s*(" + v[AND] + L")\\s*(" + days + L")\\s*(" + v[AND] +
@@ -69,12 +69,12 @@ const std::wstring& repeatListPattern(Vocabulary& v) {
   });
 }
 
-const std::wstring& repeatLastDayPattern(Vocabulary& v) {
+const std::wstring& repeatLastDayPattern(const Vocabulary& v) {
   return keptFor(
       v, [&]() -> std::wstring { return L"(\\b(" + v[EVERY] + L")\\s*(" + v[LAST] + L"\\s+(" + v[DAY] + L")))"; });
 }
 
-const std::vector<std::pair<std::wstring, NLPFrequency>>& repeatEveryPatterns(Vocabulary& v) {
+const std::vector<std::pair<std::wstring, NLPFrequency>>& repeatEveryPatterns(const Vocabulary& v) {
   return keptFor(v, [&]() -> std::vector<std::pair<std::wstring, NLPFrequency>> {
     // Built as an ordered map: its key order is the order of the tries.
     const std::map<std::wstring, NLPFrequency> table = {
@@ -103,7 +103,7 @@ const std::vector<std::pair<std::wstring, NLPFrequency>>& repeatEveryPatterns(Vo
   });
 }
 
-const std::map<std::wstring, NLPFrequency>& repeatOneWordPatterns(Vocabulary& v) {
+const std::map<std::wstring, NLPFrequency>& repeatOneWordPatterns(const Vocabulary& v) {
   return keptFor(v, [&]() -> std::map<std::wstring, NLPFrequency> {
     // DAILY alone has no word border in front.
     return {
@@ -118,7 +118,7 @@ const std::map<std::wstring, NLPFrequency>& repeatOneWordPatterns(Vocabulary& v)
 
 std::wstring officialWorkDayPattern() { return L"(法定工作日|official working days?)"; }
 
-const std::wstring& repeatIntervalPattern(Vocabulary& v) {
+const std::wstring& repeatIntervalPattern(const Vocabulary& v) {
   return keptFor(v, [&]() -> std::wstring { return L"\\b(" + v[EVERY] + L") (\\w*)\\b"; });
 }
 

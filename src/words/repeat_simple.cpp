@@ -7,7 +7,7 @@
 
 namespace nlpdate {
 
-bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
+bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
   for (const auto& [pattern, frequency] : repeatOneWordPatterns(vocabulary)) {
     PatternMatch match;
     if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;

@@ -11,19 +11,18 @@
 
 namespace nlpdate {
 
-bool matchRepeatList(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary);
-bool matchRepeatLastDay(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary);
-bool matchRepeatEvery(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary);
-bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary);
+bool matchRepeatList(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary);
+bool matchRepeatLastDay(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary);
+bool matchRepeatEvery(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary);
+bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary);
 bool matchOfficialWorkDays(NLPNativeTitleParser& parser, const std::wstring& title);
 
 // The monthly branch of the every patterns (month patterns M1 and M2).
-void applyMonthlyRepeat(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule,
-                        std::tm* record, Vocabulary& vocabulary);
+void applyMonthlyRepeat(NLPNativeTitleParser& parser, const PatternMatch& match, StringRRule& rule, std::tm* record,
+                        const Vocabulary& vocabulary);
 
 // Stores the rule, its text, the recognised text and the start date.
-void storeRepeat(NLPNativeTitleParser& parser, const StringRRule& rule, const std::wstring& text,
-                 std::tm* record);
+void storeRepeat(NLPNativeTitleParser& parser, const StringRRule& rule, const std::wstring& text, std::tm* record);
 // Clears the clock fields of a record.
 void clearClock(std::tm* record);
 

@@ -41,7 +41,7 @@ std::vector<DayPart> dayPartsInTestOrder(const NLPNativeTitleParser& parser) {
 }  // namespace
 
 bool applyRepeatUnit(NLPNativeTitleParser& parser, const std::wstring& unitWord, std::tm* record, StringRRule& rule,
-                     Vocabulary& vocabulary, bool withYear) {
+                     const Vocabulary& vocabulary, bool withYear) {
   std::wstring unit = toLowerCase(unitWord);
   for (const DayPart& part : dayPartsInTestOrder(parser)) {
     if (!containStr(unit, vocabulary[*part.key])) continue;
@@ -61,7 +61,7 @@ bool applyRepeatUnit(NLPNativeTitleParser& parser, const std::wstring& unitWord,
 }
 
 bool walkToNamedDay(NLPNativeTitleParser& parser, std::tm* record, const std::wstring& nameWord,
-                    const std::wstring& weekdayWord, Vocabulary& vocabulary) {
+                    const std::wstring& weekdayWord, const Vocabulary& vocabulary) {
   if (containStr(nameWord, vocabulary[TODAY])) {
     while (parser.isBeforeToday(record)) record->tm_mday += 1;
     return true;
@@ -78,7 +78,7 @@ bool walkToNamedDay(NLPNativeTitleParser& parser, std::tm* record, const std::ws
 }
 
 TMPtr readLastDate(NLPNativeTitleParser& parser, std::tm* record, const std::wstring& monthWord,
-                   const std::wstring& dayBefore, const std::wstring& dayBehind, Vocabulary& vocabulary,
+                   const std::wstring& dayBefore, const std::wstring& dayBehind, const Vocabulary& vocabulary,
                    bool wholeClock) {
   TMPtr end = monthWord.empty() ? newTM(*record) : parser.getEnMonthCalendar(monthWord, vocabulary);
   if (!dayBefore.empty()) {

@@ -8,7 +8,7 @@
 
 namespace nlpdate {
 
-bool repeatForForm(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
+bool repeatForForm(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
   Pattern pattern = compilePattern(repeatForPattern(vocabulary), PatternCase::Insensitive);
   PatternMatch match;
   if (!pattern.search(title, match)) return false;

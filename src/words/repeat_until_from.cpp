@@ -12,7 +12,8 @@ namespace nlpdate {
 namespace {
 
 // A first date with no day is a today or tomorrow word, a weekday, or the 1st.
-void readFirstDay(NLPNativeTitleParser& parser, const PatternMatch& match, std::tm* record, Vocabulary& vocabulary) {
+void readFirstDay(NLPNativeTitleParser& parser, const PatternMatch& match, std::tm* record,
+                  const Vocabulary& vocabulary) {
   if (!match[6].str().empty()) {
     record->tm_mday = parser.translateNum(match[6].str());
     return;
@@ -36,7 +37,7 @@ void readFirstDay(NLPNativeTitleParser& parser, const PatternMatch& match, std::
 
 // A named last day walks the record that gave the start, which is stored already.
 OptTM readFromEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const TMPtr& record,
-                  Vocabulary& vocabulary) {
+                  const Vocabulary& vocabulary) {
   if (match[19].str().empty() && match[17].str().empty() && match[21].str().empty()) {
     if (!walkToNamedDay(parser, record.get(), match[24].str(), match[25].str(), vocabulary)) return std::nullopt;
     parser.clearValueAfterDay(record.get());
@@ -48,7 +49,7 @@ OptTM readFromEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const
 
 }  // namespace
 
-bool repeatFromForm(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
+bool repeatFromForm(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
   Pattern pattern = compilePattern(repeatFromPattern(vocabulary), PatternCase::Insensitive);
   PatternMatch match;
   if (!pattern.search(title, match)) return false;

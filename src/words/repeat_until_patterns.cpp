@@ -24,7 +24,7 @@ const wchar_t* const kFor =
 const wchar_t* const kStartEnd =
     LR"~((«EVERY»)\s+(«FIRST»|«SECOND»|«THIRD»|«FOURTH»|«FIFTH»|«LAST»)?\s*((«WEEKDAYS»)?|((«DAY_OF_MONTH_DIGITAL»)\s*(«DAY_END»)?))\s+((«START»)\s+«DATE»)?\s*((«END»)\s*(«ON»\s*(«DATE»)|(«IN_WORD»\s*((\d{0,2})\s+((«WEEK»)|(«MONTH»)|(«YEAR»))))))?)~";
 
-PatternPieces vocabularyPieces(Vocabulary& v) {
+PatternPieces vocabularyPieces(const Vocabulary& v) {
   return {{L"MONDAY", v[MONDAY]},
           {L"TUESDAY", v[TUESDAY]},
           {L"WEDNESDAY", v[WEDNESDAY]},
@@ -75,7 +75,7 @@ PatternPieces vocabularyPieces(Vocabulary& v) {
 
 // The vocabulary values with the composed pieces on top: weekday and month
 // lists, and the optional date that the patterns use twice.
-const PatternPieces& untilPieces(Vocabulary& vocabulary) {
+const PatternPieces& untilPieces(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> PatternPieces {
     PatternPieces pieces = vocabularyPieces(vocabulary);
     pieces[L"WEEKDAYS"] = fillPieces(kWeekdays, pieces);
@@ -90,15 +90,15 @@ const PatternPieces& untilPieces(Vocabulary& vocabulary) {
 
 }  // namespace
 
-const std::wstring& repeatFromPattern(Vocabulary& vocabulary) {
+const std::wstring& repeatFromPattern(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring { return fillPieces(kFrom, untilPieces(vocabulary)); });
 }
 
-const std::wstring& repeatForPattern(Vocabulary& vocabulary) {
+const std::wstring& repeatForPattern(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring { return fillPieces(kFor, untilPieces(vocabulary)); });
 }
 
-const std::wstring& repeatStartEndPattern(Vocabulary& vocabulary) {
+const std::wstring& repeatStartEndPattern(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring { return fillPieces(kStartEnd, untilPieces(vocabulary)); });
 }
 

@@ -29,7 +29,7 @@ void readDayOfMonth(NLPNativeTitleParser& parser, const PatternMatch& match, std
 }
 
 // The start part: a named day walks the record, a written date replaces it.
-void readStart(NLPNativeTitleParser& parser, const PatternMatch& match, TMPtr& record, Vocabulary& vocabulary) {
+void readStart(NLPNativeTitleParser& parser, const PatternMatch& match, TMPtr& record, const Vocabulary& vocabulary) {
   if (allEmpty(match, 13, 11, 15)) {
     walkToNamedDay(parser, record.get(), toLowerCase(match[18].str()), toLowerCase(match[19].str()), vocabulary);
     return;
@@ -52,7 +52,7 @@ std::vector<std::pair<const std::wstring*, int>> ordinalsInTestOrder() {
 
 // "every second monday" is monthly on that weekday; "every monday" weekly.
 void readWeekday(NLPNativeTitleParser& parser, const PatternMatch& match, std::tm* record, StringRRule& rule,
-                 Vocabulary& vocabulary) {
+                 const Vocabulary& vocabulary) {
   if (match[4].str().empty()) return;
   int ordinal = 0;
   for (const auto& [key, value] : ordinalsInTestOrder()) {
@@ -72,7 +72,7 @@ void readWeekday(NLPNativeTitleParser& parser, const PatternMatch& match, std::t
 
 // "end in 3 months": the day before the same date so many units on.
 void readEndLength(NLPNativeTitleParser& parser, const PatternMatch& match, const TMPtr& record, StringRRule& rule,
-                   Vocabulary& vocabulary) {
+                   const Vocabulary& vocabulary) {
   int length = parser.translateNum(match[36].str());
   if (length == 0 || match[36].str().empty()) length = 1;
   std::wstring unit = toLowerCase(match[37].str());
@@ -93,7 +93,7 @@ void readEndLength(NLPNativeTitleParser& parser, const PatternMatch& match, cons
 // A named end walks the start record and leaves the end on the default day;
 // that is how this form has always read it.
 void readNamedEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const TMPtr& record, StringRRule& rule,
-                  Vocabulary& vocabulary) {
+                  const Vocabulary& vocabulary) {
   TMPtr end = parser.getDefaultTM();
   walkToNamedDay(parser, record.get(), toLowerCase(match[32].str()), toLowerCase(match[33].str()), vocabulary);
   parser.clearValueAfterDay(end.get());
@@ -101,7 +101,7 @@ void readNamedEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const
 }
 
 void readEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const TMPtr& record, StringRRule& rule,
-             Vocabulary& vocabulary) {
+             const Vocabulary& vocabulary) {
   if (match[20].str().empty()) return;
   if (!match[34].str().empty()) {
     readEndLength(parser, match, record, rule, vocabulary);
@@ -115,7 +115,7 @@ void readEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const TMPt
 
 }  // namespace
 
-bool repeatStartEndForm(NLPNativeTitleParser& parser, const std::wstring& title, Vocabulary& vocabulary) {
+bool repeatStartEndForm(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
   Pattern pattern = compilePattern(repeatStartEndPattern(vocabulary), PatternCase::Insensitive);
   PatternMatch match;
   if (!pattern.search(title, match)) return false;
