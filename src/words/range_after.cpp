@@ -76,24 +76,30 @@ void applyAfterOffset(NLPNativeTitleParser& parser, std::tm* start, const NLPMor
 }  // namespace
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnAfterDuration(std::wstring title, Vocabulary vocabulary) {
-  const PatternPieces pieces = offsetPieces(vocabulary);
-  const std::wstring flag = rangeFlag(vocabulary);
-  const std::vector<std::wstring> times = getEnTimePattern(vocabulary);
+  const std::pair<const wchar_t*, std::pair<int, int>> offsets[] = {
+      {kAfterOffset, {kAfterNumberGroup, kAfterUnitGroup}}, {kLaterOffset, {kLaterNumberGroup, kLaterUnitGroup}}};
+  // Each offset form before each clock pattern, compiled once per vocabulary.
+  const std::vector<std::vector<Pattern>>& forms = keptFor(vocabulary, [&] {
+    const std::wstring flag = rangeFlag(vocabulary);
+    std::vector<std::vector<Pattern>> all;
+    for (const auto& entry : offsets) {
+      const std::wstring offset = fillPieces(entry.first, offsetPieces(vocabulary));
+      all.push_back(compileForEachTime(*this, vocabulary, PatternCase::Insensitive,
+                                       [&](const std::wstring& time) { return offset + time + flag + time; }));
+    }
+    return all;
+  });
   PatternMatch match;
   int numberGroup = 0;
   int unitGroup = 0;
-  const std::pair<const wchar_t*, std::pair<int, int>> offsets[] = {
-      {kAfterOffset, {kAfterNumberGroup, kAfterUnitGroup}}, {kLaterOffset, {kLaterNumberGroup, kLaterUnitGroup}}};
-  for (const auto& [offsetText, groups] : offsets) {
-    const std::wstring offset = fillPieces(offsetText, pieces);
-    for (const std::wstring& time : times) {
-      if (searchRange(title, offset + time + flag + time, PatternCase::Insensitive, match)) {
-        numberGroup = groups.first;
-        unitGroup = groups.second;
+  for (size_t form = 0; form < forms.size() && numberGroup == 0; ++form) {
+    for (const Pattern& timed : forms[form]) {
+      if (timed.search(title, match)) {
+        numberGroup = offsets[form].second.first;
+        unitGroup = offsets[form].second.second;
         break;
       }
     }
-    if (numberGroup != 0) break;
   }
   if (numberGroup == 0) return std::nullopt;
 

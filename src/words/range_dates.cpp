@@ -66,12 +66,32 @@ std::wstring formText(const wchar_t* form, const NumericPieces& pieces, const st
 }
 
 // The first match of a form that holds «TIME», trying each clock pattern in turn.
+// Both kinds of form are compiled once per vocabulary and form.
 bool searchTimeForm(const std::wstring& title, const wchar_t* form, const NumericPieces& pieces,
                     const Vocabulary& vocabulary, PatternMatch& match) {
-  for (const std::wstring& time : pieces.times) {
-    if (searchRange(title, formText(form, pieces, time, vocabulary), PatternCase::Sensitive, match)) return true;
+  const std::vector<Pattern>& forms = keptFor(
+      vocabulary,
+      [&] {
+        std::vector<Pattern> all;
+        for (const std::wstring& time : pieces.times) {
+          all.push_back(compilePattern(formText(form, pieces, time, vocabulary), PatternCase::Sensitive));
+        }
+        return all;
+      },
+      variantOf(form));
+  for (const Pattern& timed : forms) {
+    if (timed.search(title, match)) return true;
   }
   return false;
+}
+
+// The first match of a form without «TIME».
+bool searchPlainForm(const std::wstring& title, const wchar_t* form, const NumericPieces& pieces,
+                     const Vocabulary& vocabulary, PatternMatch& match) {
+  const Pattern& plain = keptFor(
+      vocabulary, [&] { return compilePattern(formText(form, pieces, L"", vocabulary), PatternCase::Sensitive); },
+      variantOf(form));
+  return plain.search(title, match);
 }
 
 // Year rule of the numeric forms: a written year (two digits mean 20xx), or
@@ -100,12 +120,14 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDateDuration(std::w
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration(const std::wstring& title,
                                                                                  const Vocabulary& vocabulary) {
-  NumericPieces pieces{{{L"YMD", kRangeYearMonthDay},
-                        {L"MDY", kRangeMonthDayYear},
-                        {L"MD", kRangeMonthDay},
-                        {L"FLAG", rangeFlag(vocabulary)},
-                        {L"DATE_DIVIDER", L"«DATE_DIVIDER»"}},
-                       getEnTimePattern(vocabulary)};
+  const NumericPieces& pieces = keptFor(vocabulary, [&] {
+    return NumericPieces{{{L"YMD", kRangeYearMonthDay},
+                          {L"MDY", kRangeMonthDayYear},
+                          {L"MD", kRangeMonthDay},
+                          {L"FLAG", rangeFlag(vocabulary)},
+                          {L"DATE_DIVIDER", L"«DATE_DIVIDER»"}},
+                         getEnTimePattern(vocabulary)};
+  });
   PatternMatch match;
   TMPtr start = getDefaultTM();
   setTMToDefaultTime(start.get());
@@ -147,7 +169,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration
     return makeRangeResult(match, start, end, ON_TIME);
   }
 
-  if (searchRange(title, formText(kYmdRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
+  if (searchPlainForm(title, kYmdRange, pieces, vocabulary, match)) {
     setRangeMonthDay(*this, start.get(), match.str(kMiddleFieldGroup), match.str(kLastFieldGroup));
     applyRangeYear(*this, start.get(), match.str(kFirstFieldGroup));
     TMPtr end = getTM(static_cast<long>(std::mktime(start.get())));
@@ -187,7 +209,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration
     return makeRangeResult(match, start, end, ON_TIME);
   }
 
-  if (searchRange(title, formText(kMdyDayRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
+  if (searchPlainForm(title, kMdyDayRange, pieces, vocabulary, match)) {
     setRangeMonthDay(*this, start.get(), match.str(kFirstFieldGroup), match.str(kMiddleFieldGroup));
     std::wstring year = match.str(kLastFieldGroup);
     trim(year);
@@ -201,7 +223,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (searchRange(title, formText(kMdyRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
+  if (searchPlainForm(title, kMdyRange, pieces, vocabulary, match)) {
     setRangeMonthDay(*this, start.get(), match.str(kFirstFieldGroup), match.str(kMiddleFieldGroup));
     std::wstring startYear = match.str(kLastFieldGroup);
     trim(startYear);
@@ -219,7 +241,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnNumericDateDuration
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (searchRange(title, formText(kMdRange, pieces, L"", vocabulary), PatternCase::Sensitive, match)) {
+  if (searchPlainForm(title, kMdRange, pieces, vocabulary, match)) {
     setRangeMonthDay(*this, start.get(), match.str(kFirstFieldGroup), match.str(kMiddleFieldGroup));
     TMPtr end = getTM(static_cast<long>(std::mktime(start.get())));
     setRangeMonthDay(*this, end.get(), match.str(kMdSecondMonthGroup), match.str(kMdSecondDayGroup));
