@@ -2,9 +2,9 @@
 
 #include <cwctype>
 #include <functional>
+#include <unordered_map>
 #include <vector>
 
-#include "vocabulary/pattern_kit.h"
 
 namespace nlpdate {
 
@@ -29,8 +29,16 @@ bool isOneOf(const std::wstring& text, const wchar_t* const (&words)[N]) {
 // Splits a vocabulary value at every '|'. Token-iterator semantics: empty
 // pieces before a bar are kept, an empty piece after the last bar is not.
 std::vector<std::wstring> splitAlternatives(const std::wstring& value) {
-  return compilePattern(L"\\|").split(value);
+  if (value.find(L'|') == std::wstring::npos) return {value};
+  std::vector<std::wstring> pieces;
+  size_t copied = 0;
+  for (size_t bar; (bar = value.find(L'|', copied)) != std::wstring::npos; copied = bar + 1) {
+    pieces.push_back(value.substr(copied, bar - copied));
+  }
+  if (copied < value.size()) pieces.push_back(value.substr(copied));
+  return pieces;
 }
+
 
 void eraseAll(std::wstring& text, const std::wstring& piece) {
   for (size_t at; (at = text.find(piece)) != std::wstring::npos;) text.erase(at, piece.size());
@@ -45,6 +53,21 @@ std::wstring decorateAlternatives(std::wstring value,
   for (const std::wstring& alternative : splitAlternatives(value)) result += decorate(alternative) + L"|";
   if (!result.empty()) result.pop_back();
   return result;
+}
+
+// The word-border family turns the same few vocabulary values into the same
+// texts over and over; each kind keeps what it made (by value, so a caller
+// never holds into the store), and starts afresh once the store is large.
+template <int Kind>
+std::wstring keptDecoration(const std::wstring& value,
+                            const std::function<std::wstring(const std::wstring&)>& decorate) {
+  thread_local std::unordered_map<std::wstring, std::wstring> kept;
+  auto found = kept.find(value);
+  if (found != kept.end()) return found->second;
+  if (kept.size() >= 4096) kept.clear();
+  std::wstring made = decorateAlternatives(value, decorate);
+  kept.emplace(value, made);
+  return made;
 }
 
 const std::wstring kBorder = L"\\b";
@@ -64,10 +87,12 @@ bool containStr(const std::wstring& text, const std::wstring& pattern) {
 }
 
 bool isAsciiCode(const std::wstring& text) {
-  PatternMatch match;
-  Pattern word = compilePattern(L"[a-zA-Z-_]+");
-  if (!word.search(text, match)) return false;
-  return static_cast<size_t>(match.length(0)) == text.size();
+  if (text.empty()) return false;
+  for (wchar_t unit : text) {
+    const bool letter = (unit >= L'a' && unit <= L'z') || (unit >= L'A' && unit <= L'Z');
+    if (!letter && unit != L'-' && unit != L'_') return false;
+  }
+  return true;
 }
 
 std::wstring toLowerCase(std::wstring text) {
@@ -104,31 +129,34 @@ bool isYearUnit(const std::wstring& text) { return isOneOf(text, kYearWords); }
 // \b only means something next to ASCII word letters, so other scripts get an
 // explicit end-of-text-or-blank border instead.
 std::wstring addWordBorderInStart(std::wstring value) {
-  return decorateAlternatives(std::move(value), [](const std::wstring& a) {
+  return keptDecoration<0>(value, [](const std::wstring& a) {
     return isAsciiCode(a) ? kBorder + a : a + kEndOrBlank;
   });
 }
 
 std::wstring addWordBorderInStartAndEnd(std::wstring value, bool always) {
-  return decorateAlternatives(std::move(value), [always](const std::wstring& a) {
-    return always || isAsciiCode(a) ? kBorder + a + kBorder : a;
+  if (always) {
+    return keptDecoration<1>(value, [](const std::wstring& a) { return kBorder + a + kBorder; });
+  }
+  return keptDecoration<2>(value, [](const std::wstring& a) {
+    return isAsciiCode(a) ? kBorder + a + kBorder : a;
   });
 }
 
 std::wstring addWordBorderInEnd(std::wstring value) {
-  return decorateAlternatives(std::move(value), [](const std::wstring& a) {
+  return keptDecoration<3>(value, [](const std::wstring& a) {
     return isAsciiCode(a) ? kBorder + a + kCloseDotOrBorder : a;
   });
 }
 
 std::wstring addWordBorderInEndWithOutReg(std::wstring value) {
-  return decorateAlternatives(std::move(value), [](const std::wstring& a) { return a + kCloseDotOrBorder; });
+  return keptDecoration<4>(value, [](const std::wstring& a) { return a + kCloseDotOrBorder; });
 }
 
 // Long alternatives stay bare on purpose: a word of six letters or more
 // rarely sits inside another one.
 std::wstring addWordBorderInEndWithEnd(std::wstring value) {
-  return decorateAlternatives(std::move(value), [](const std::wstring& a) {
+  return keptDecoration<5>(value, [](const std::wstring& a) {
     return a.size() > 5 ? a : kStartOrBlank + a + kEndOrBlank;
   });
 }
