@@ -2,6 +2,7 @@
 // the day, with no am/pm word and no 24-hour marker, is read as pm.
 
 #include "core/title_parser.h"
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
@@ -9,7 +10,7 @@
 namespace nlpdate {
 
 OptTM NLPNativeTitleParser::handleSpecialAm(OptTM cal, std::wstring title, Vocabulary vocabulary) {
-  const Pattern ampm = compilePattern(getAmPmPattern(vocabulary), PatternCase::Insensitive);
+  const Pattern ampm = keptPattern(vocabulary, PatternCase::Insensitive, [&] { return getAmPmPattern(vocabulary); });
   if (!cal || !*cal) return cal;
   std::tm* record = cal->get();
   const bool has24HourFlag = containStr(title, vocabulary[TWENTY_FOUR_HOUR_FLAG]);

@@ -272,6 +272,8 @@ class NLPNativeTitleParser {
   OptTM matchSpecialEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary);
   std::wstring getAtTimePattern(Vocabulary vocabulary);
   const std::vector<std::wstring>& getEnTimePattern(const Vocabulary& vocabulary);
+  // The same, compiled without regard to case.
+  const std::vector<Pattern>& enTimePatterns(const Vocabulary& vocabulary);
   std::wstring getAmPmPattern(Vocabulary vocabulary);
   // [words-time: further declarations go here]
   int ampmToNumber(std::wstring text, Vocabulary vocabulary);

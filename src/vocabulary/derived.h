@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "core/types.h"
+#include "vocabulary/pattern_kit.h"
 
 namespace nlpdate {
 
@@ -40,6 +41,14 @@ const std::decay_t<std::invoke_result_t<Build&>>& keptFor(const Vocabulary& voca
   auto found = kept.find(key);
   if (found != kept.end()) return found->second;
   return kept.emplace(key, build()).first->second;
+}
+
+// A compiled pattern whose text build() makes from the vocabulary (and the
+// variant) alone.
+template <class Build>
+const Pattern& keptPattern(const Vocabulary& vocabulary, PatternCase mode, Build build, std::uint64_t variant = 0) {
+  return keptFor(
+      vocabulary, [&] { return compilePattern(build(), mode); }, variant);
 }
 
 // For variants named by a constant text (a pattern template).

@@ -4,6 +4,7 @@
 // forms (digits with am/pm, hh:mm, digits or hour words with o'clock).
 
 #include "core/title_parser.h"
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
@@ -12,8 +13,8 @@ namespace nlpdate {
 
 std::wstring NLPNativeTitleParser::getAtTimePattern(Vocabulary vocabulary) {
   // The divider value goes into the character class as it stands, bars and all.
-  return L"(@|" + addWordBorderInStart(vocabulary[ON_AT]) + L")\\s*(2[0-4]|[0-1]?[0-9])[" +
-         vocabulary[TIME_DIVIDER] + L"]?([0-5]?[0-9]|60)?\\s*(" + vocabulary[AM_PM] + L")?(\\s|$)";
+  return L"(@|" + addWordBorderInStart(vocabulary[ON_AT]) + L")\\s*(2[0-4]|[0-1]?[0-9])[" + vocabulary[TIME_DIVIDER] +
+         L"]?([0-5]?[0-9]|60)?\\s*(" + vocabulary[AM_PM] + L")?(\\s|$)";
 }
 
 std::wstring NLPNativeTitleParser::getAmPmPattern(Vocabulary vocabulary) {
@@ -36,7 +37,9 @@ OptTM NLPNativeTitleParser::matchEnTime(std::wstring title, std::tm* calendar, V
 OptTM NLPNativeTitleParser::matchEnAtTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary,
                                           bool hasDate, bool isFrench) {
   PatternMatch match;
-  if (!compilePattern(getAtTimePattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
+  if (!keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+         return getAtTimePattern(vocabulary);
+       }).search(title, match)) {
     return std::nullopt;
   }
   parserDueDate.reminder.push_back(ON_TIME);

@@ -31,6 +31,16 @@ const std::wstring& pmWordsPattern(const Vocabulary& vocabulary) {
 
 }  // namespace
 
+const std::vector<Pattern>& NLPNativeTitleParser::enTimePatterns(const Vocabulary& vocabulary) {
+  return keptFor(vocabulary, [&] {
+    std::vector<Pattern> compiled;
+    for (const std::wstring& text : getEnTimePattern(vocabulary)) {
+      compiled.push_back(compilePattern(text, PatternCase::Insensitive));
+    }
+    return compiled;
+  });
+}
+
 const std::vector<std::wstring>& NLPNativeTitleParser::getEnTimePattern(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&vocabulary]() -> std::vector<std::wstring> {
     const std::wstring lead = L"(" + addWordBorderInStart(vocabulary[ON_AT]) + L")?";
@@ -52,8 +62,9 @@ const std::vector<std::wstring>& NLPNativeTitleParser::getEnTimePattern(const Vo
 OptTM NLPNativeTitleParser::matchEnCompactTime(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary,
                                                bool hasDate) {
   PatternMatch match;
-  const std::wstring pattern = L"\\b(\\d{1,2})\\.?(\\d{2})\\s*(" + vocabulary[AM_PM] + L")";
-  if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) return std::nullopt;
+  const Pattern& compact = keptPattern(vocabulary, PatternCase::Insensitive,
+                                       [&] { return L"\\b(\\d{1,2})\\.?(\\d{2})\\s*(" + vocabulary[AM_PM] + L")"; });
+  if (!compact.search(title, match)) return std::nullopt;
   parserDueDate.reminder.push_back(ON_TIME);
   TMPtr record = getDefaultTM();
   copyTM(calendar, record.get());
@@ -86,12 +97,16 @@ bool NLPNativeTitleParser::readListDayPart(std::tm* record, int number, std::wst
   // decides, and with both kinds the pm reading wins.
   bool seen = false;
   PatternMatch match;
-  if (compilePattern(amWordsPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
+  if (keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+        return amWordsPattern(vocabulary);
+      }).search(title, match)) {
     parserDueDate.recognizeStrings.push_back(match[0].str());
     if (record->tm_hour >= 12) record->tm_hour -= 12;
     seen = true;
   }
-  if (compilePattern(pmWordsPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
+  if (keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+        return pmWordsPattern(vocabulary);
+      }).search(title, match)) {
     parserDueDate.recognizeStrings.push_back(match[0].str());
     if (record->tm_hour <= 11) record->tm_hour += 12;
     seen = true;
@@ -103,8 +118,8 @@ OptTM NLPNativeTitleParser::matchEnListTime(const std::wstring& title, std::tm* 
                                             bool hasDate, bool isFrench) {
   PatternMatch match;
   bool found = false;
-  for (const std::wstring& pattern : getEnTimePattern(vocabulary)) {
-    if (compilePattern(pattern, PatternCase::Insensitive).search(title, match)) {
+  for (const Pattern& pattern : enTimePatterns(vocabulary)) {
+    if (pattern.search(title, match)) {
       found = true;
       break;
     }

@@ -3,6 +3,7 @@
 // hour goes to tomorrow unless a named day or a repeat rule fixes the day.
 
 #include "core/title_parser.h"
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
@@ -22,7 +23,7 @@ void toPmOrTomorrow(NLPNativeTitleParser& parser, std::tm* record) {
 
 void NLPNativeTitleParser::rollBareTime(std::tm* record, const std::wstring& title, Vocabulary vocabulary,
                                         bool isFrench) {
-  if (compilePattern(getAmPmPattern(vocabulary), PatternCase::Insensitive).search(title)) {
+  if (keptPattern(vocabulary, PatternCase::Insensitive, [&] { return getAmPmPattern(vocabulary); }).search(title)) {
     record->tm_mday += 1;  // the title said am or pm outright
     return;
   }
@@ -38,8 +39,7 @@ void NLPNativeTitleParser::rollBareTime(std::tm* record, const std::wstring& tit
     return;
   }
   const bool noClockTime = !titleHasClockTime(title);
-  if ((hour == 12 && minute == 0) || (hour == 0 && minute == 0) || isFrench ||
-      (is24DateFormat && !noClockTime)) {
+  if ((hour == 12 && minute == 0) || (hour == 0 && minute == 0) || isFrench || (is24DateFormat && !noClockTime)) {
     record->tm_mday += 1;
     return;
   }
@@ -62,11 +62,13 @@ bool NLPNativeTitleParser::titleHasClockTime(const std::wstring& title) {
 
 int NLPNativeTitleParser::writtenHourOf(const std::wstring& title, Vocabulary vocabulary) {
   PatternMatch match;
-  if (compilePattern(getAtTimePattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
+  if (keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+        return getAtTimePattern(vocabulary);
+      }).search(title, match)) {
     return translateNum(match[2].str());
   }
-  for (const std::wstring& pattern : getEnTimePattern(vocabulary)) {
-    if (compilePattern(pattern, PatternCase::Insensitive).search(title, match)) {
+  for (const Pattern& pattern : enTimePatterns(vocabulary)) {
+    if (pattern.search(title, match)) {
       return matchEnglishNum(match[3].str(), vocabulary);
     }
   }

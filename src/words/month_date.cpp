@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
@@ -17,11 +18,6 @@ namespace {
 std::vector<std::pair<const std::wstring*, int>> monthKeysInTestOrder() {
   return {{&DECEMBER, 11}, {&NOVEMBER, 10}, {&OCTOBER, 9}, {&JANUARY, 0}, {&FEBRUARY, 1}, {&MARCH, 2},
           {&APRIL, 3},     {&MAY, 4},       {&JUNE, 5},    {&JULY, 6},    {&AUGUST, 7},   {&SEPTEMBER, 8}};
-}
-
-bool searchTitle(const std::wstring& title, const std::wstring& pattern, PatternMatch& match) {
-  Pattern compiled = compilePattern(pattern, PatternCase::Insensitive);
-  return compiled.search(title, match);
 }
 
 }  // namespace
@@ -41,17 +37,28 @@ TMPtr NLPNativeTitleParser::getEnMonthCalendar(std::wstring monthText, Vocabular
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonth(std::wstring title, Vocabulary vocabulary) {
   PatternMatch match;
-  if (searchTitle(title, getEnMonthDayTimePattern(vocabulary), match)) {
+  if (keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+        return getEnMonthDayTimePattern(vocabulary);
+      }).search(title, match)) {
     return readMonthWithClock(*this, match, {1, 3, 5, 6}, vocabulary);
   }
-  if (searchTitle(title, getEnMonthTimeDayPattern(vocabulary), match)) {
+  if (keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+        return getEnMonthTimeDayPattern(vocabulary);
+      }).search(title, match)) {
     return readMonthWithClock(*this, match, {6, 5, 2, 3}, vocabulary);
   }
-  if (searchTitle(title, getEnMonthRecognition(vocabulary), match)) {
+  if (keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+        return getEnMonthRecognition(vocabulary);
+      }).search(title, match)) {
     return readMainMonthDate(*this, title, match, vocabulary);
   }
-  if (searchTitle(title, getEnMonthOrdinalDayPattern(vocabulary), match)) return readOrdinalDay(*this, match);
-  if (searchTitle(title, getEnMonthDayFirstPattern(vocabulary), match)) {
+  if (keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+        return getEnMonthOrdinalDayPattern(vocabulary);
+      }).search(title, match))
+    return readOrdinalDay(*this, match);
+  if (keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+        return getEnMonthDayFirstPattern(vocabulary);
+      }).search(title, match)) {
     return readDayFirstMonth(*this, match, vocabulary);
   }
   return std::nullopt;

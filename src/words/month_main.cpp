@@ -1,6 +1,7 @@
 // The main month pattern: a month with an optional day before or behind it
 // and an optional year. Two numbers around the month are settled by a second
 // look at the title.
+#include "vocabulary/derived.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
 #include "words/month_patterns.h"
@@ -29,10 +30,10 @@ struct MainReading {
 // time stage must still see; Korean puts the month first.
 void secondLook(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary,
                 MainReading& reading) {
-  bool isKo = isVocabularyLanguage(vocabulary, L"ko");
-  std::wstring source =
-      isKo ? getEnMonthRecognitionStartWithMonth(vocabulary) : getEnMonthRecognitionStartWithDay(vocabulary);
-  Pattern pattern = compilePattern(source, PatternCase::Insensitive);
+  const bool isKo = isVocabularyLanguage(vocabulary, L"ko");
+  const Pattern& pattern = keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+    return isKo ? getEnMonthRecognitionStartWithMonth(vocabulary) : getEnMonthRecognitionStartWithDay(vocabulary);
+  });
   PatternMatch look;
   if (!pattern.search(title, look)) return;
   if (!look[13].str().empty()) {

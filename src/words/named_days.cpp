@@ -24,7 +24,9 @@ const std::wstring& getSpecialDayRecognition(Vocabulary vocabulary) {
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnSpecialDate(std::wstring title, Vocabulary vocabulary) {
   PatternMatch match;
-  if (!compilePattern(getSpecialDayRecognition(vocabulary), PatternCase::Insensitive).search(title, match)) {
+  if (!keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+         return getSpecialDayRecognition(vocabulary);
+       }).search(title, match)) {
     return std::nullopt;
   }
   TMPtr record = getDefaultTM();

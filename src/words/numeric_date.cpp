@@ -116,11 +116,23 @@ TMPtr readRelative(NLPNativeTitleParser& parser, const PatternMatch& match, cons
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDate(std::wstring title, Vocabulary vocabulary) {
   long todaySeconds = today();
-  PatternPieces pieces = numericPieces(vocabulary);
-  for (const NumericStep& step : numericSteps(isUsOrUkDateFormat)) {
-    Pattern pattern = compilePattern(fillPieces(step.pattern, pieces), PatternCase::Insensitive);
+  const std::vector<NumericStep> steps = numericSteps(isUsOrUkDateFormat);
+  // The steps depend on the month-first setting, their patterns on the words too.
+  const std::vector<Pattern>& patterns = keptFor(
+      vocabulary,
+      [&] {
+        std::vector<Pattern> compiled;
+        for (const NumericStep& step : steps) {
+          compiled.push_back(
+              compilePattern(fillPieces(step.pattern, numericPieces(vocabulary)), PatternCase::Insensitive));
+        }
+        return compiled;
+      },
+      isUsOrUkDateFormat ? 1 : 0);
+  for (size_t at = 0; at < steps.size(); ++at) {
+    const NumericStep& step = steps[at];
     PatternMatch match;
-    if (!pattern.search(title, match)) continue;
+    if (!patterns[at].search(title, match)) continue;
     TMPtr record =
         step.relative ? readRelative(*this, match, vocabulary) : readFields(*this, match, step.fields, todaySeconds);
     return NLPRecognizeDate(match[0].str(), static_cast<long>(match.position(0)), record);

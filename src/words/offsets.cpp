@@ -26,12 +26,13 @@ struct OffsetPattern {
   int secondGroup;
   int unitGroup;
   bool wordNumbers;  // counts may be number words, read with matchEnglishNum
+  Pattern compiled = Pattern();
 };
 
 const std::vector<OffsetPattern>& offsetPatterns(const Vocabulary& v) {
   return keptFor(v, [&]() -> std::vector<OffsetPattern> {
     const std::wstring words = numberWordAlternation(v);
-    return {
+    std::vector<OffsetPattern> rows = {
         {L"(" + v[AFTER] + L")\\s+(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] + L")\\s*(" + v[HOUR] + L")\\s+(\\d{1,3}|" +
              v[A] + L")\\s+(" + v[MINUTE] + L")",
          2, 4, 5, false},
@@ -43,6 +44,8 @@ const std::vector<OffsetPattern>& offsetPatterns(const Vocabulary& v) {
         {L"(\\d{1,3}|" + v[HALF_A] + L"|" + v[A] + L"|" + words + L")\\s*(" + allUnits(v) + L")\\s+(" + v[LATER] + L")",
          1, 0, 2, true},
     };
+    for (OffsetPattern& row : rows) row.compiled = compilePattern(row.text, PatternCase::Insensitive);
+    return rows;
   });
 }
 
@@ -51,7 +54,7 @@ const std::vector<OffsetPattern>& offsetPatterns(const Vocabulary& v) {
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnAfterTime(std::wstring title, Vocabulary vocabulary) {
   for (const OffsetPattern& pattern : offsetPatterns(vocabulary)) {
     PatternMatch match;
-    if (!compilePattern(pattern.text, PatternCase::Insensitive).search(title, match)) continue;
+    if (!pattern.compiled.search(title, match)) continue;
 
     std::optional<NLPMorvaneDuration> offset;
     if (pattern.secondGroup == 0) {

@@ -2,6 +2,7 @@
 // which order, and the interval behind the word for every.
 
 #include "core/title_parser.h"
+#include "vocabulary/derived.h"
 #include "vocabulary/pattern_kit.h"
 #include "words/repeat_patterns.h"
 #include "words/repeat_steps.h"
@@ -20,7 +21,9 @@ bool NLPNativeTitleParser::repeatHelper(const std::wstring title, Vocabulary voc
 
 int NLPNativeTitleParser::findInterval(std::wstring title, Vocabulary vocabulary) {
   PatternMatch match;
-  if (!compilePattern(repeatIntervalPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
+  if (!keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+         return repeatIntervalPattern(vocabulary);
+       }).search(title, match)) {
     return 1;
   }
   const std::wstring word = match[2].str();
@@ -37,8 +40,7 @@ void clearClock(std::tm* record) {
   record->tm_hour = 0;
 }
 
-void storeRepeat(NLPNativeTitleParser& parser, const StringRRule& rule, const std::wstring& text,
-                 std::tm* record) {
+void storeRepeat(NLPNativeTitleParser& parser, const StringRRule& rule, const std::wstring& text, std::tm* record) {
   parser.parserDueDate.recognizeStrings.push_back(text);
   parser.parserDueDate.repeatFlag = rule.toIcal();
   parser.parserDueDate.repeatRule = rule;

@@ -2,6 +2,7 @@
 // monday", "every morning", "every year on march 15", and the weekday,
 // work-day and weekend words anywhere in the title.
 
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
@@ -89,9 +90,16 @@ void applyYearly(NLPNativeTitleParser& parser, const PatternMatch& match, TMPtr&
 }  // namespace
 
 bool matchRepeatEvery(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
-  for (const auto& [pattern, frequency] : repeatEveryPatterns(vocabulary)) {
+  const auto& rows = keptFor(vocabulary, [&] {
+    std::vector<std::pair<Pattern, NLPFrequency>> compiled;
+    for (const auto& [text, frequency] : repeatEveryPatterns(vocabulary)) {
+      compiled.emplace_back(compilePattern(text, PatternCase::Insensitive), frequency);
+    }
+    return compiled;
+  });
+  for (const auto& [pattern, frequency] : rows) {
     PatternMatch match;
-    if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;
+    if (!pattern.search(title, match)) continue;
 
     TMPtr record = parser.getDefaultTM();
     const int today = record->tm_wday;

@@ -3,6 +3,7 @@
 #include <list>
 #include <set>
 
+#include "vocabulary/derived.h"
 #include "vocabulary/pattern_kit.h"
 #include "words/repeat_patterns.h"
 #include "words/repeat_steps.h"
@@ -53,7 +54,9 @@ void readMonthDayList(NLPNativeTitleParser& parser, const PatternMatch& match, S
 
 bool matchRepeatList(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
   PatternMatch match;
-  if (!compilePattern(repeatListPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
+  if (!keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+         return repeatListPattern(vocabulary);
+       }).search(title, match)) {
     return false;
   }
   StringRRule rule;
@@ -72,7 +75,9 @@ bool matchRepeatList(NLPNativeTitleParser& parser, const std::wstring& title, co
 
 bool matchRepeatLastDay(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
   PatternMatch match;
-  if (!compilePattern(repeatLastDayPattern(vocabulary), PatternCase::Insensitive).search(title, match)) {
+  if (!keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+         return repeatLastDayPattern(vocabulary);
+       }).search(title, match)) {
     return false;
   }
   StringRRule rule;

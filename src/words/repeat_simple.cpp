@@ -1,6 +1,7 @@
 // Repeats told by one word ("daily", "weekly", ...) and the official
 // working-day rule, which skips holidays and weekends.
 
+#include "vocabulary/derived.h"
 #include "vocabulary/pattern_kit.h"
 #include "words/repeat_patterns.h"
 #include "words/repeat_steps.h"
@@ -8,9 +9,16 @@
 namespace nlpdate {
 
 bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
-  for (const auto& [pattern, frequency] : repeatOneWordPatterns(vocabulary)) {
+  const auto& rows = keptFor(vocabulary, [&] {
+    std::vector<std::pair<Pattern, NLPFrequency>> compiled;
+    for (const auto& [text, frequency] : repeatOneWordPatterns(vocabulary)) {
+      compiled.emplace_back(compilePattern(text, PatternCase::Insensitive), frequency);
+    }
+    return compiled;
+  });
+  for (const auto& [pattern, frequency] : rows) {
     PatternMatch match;
-    if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;
+    if (!pattern.search(title, match)) continue;
     StringRRule rule;
     rule.setFreq(frequency);
     rule.setInterval(1);

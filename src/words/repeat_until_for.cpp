@@ -1,5 +1,6 @@
 // "every day for 2 weeks": a unit word and a length in weeks or months.
 
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
@@ -9,7 +10,7 @@
 namespace nlpdate {
 
 bool repeatForForm(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
-  Pattern pattern = compilePattern(repeatForPattern(vocabulary), PatternCase::Insensitive);
+  Pattern pattern = keptPattern(vocabulary, PatternCase::Insensitive, [&] { return repeatForPattern(vocabulary); });
   PatternMatch match;
   if (!pattern.search(title, match)) return false;
   StringRRule rule;

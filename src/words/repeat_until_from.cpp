@@ -1,5 +1,6 @@
 // "every day from 3 march to 20 march": a unit word, a first date and a last date.
 
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
@@ -50,7 +51,7 @@ OptTM readFromEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const
 }  // namespace
 
 bool repeatFromForm(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
-  Pattern pattern = compilePattern(repeatFromPattern(vocabulary), PatternCase::Insensitive);
+  Pattern pattern = keptPattern(vocabulary, PatternCase::Insensitive, [&] { return repeatFromPattern(vocabulary); });
   PatternMatch match;
   if (!pattern.search(title, match)) return false;
   TMPtr record = parser.getEnMonthCalendar(match[8].str(), vocabulary);

@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/pattern_kit.h"
 #include "vocabulary/text_kit.h"
@@ -116,7 +117,8 @@ void readEnd(NLPNativeTitleParser& parser, const PatternMatch& match, const TMPt
 }  // namespace
 
 bool repeatStartEndForm(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
-  Pattern pattern = compilePattern(repeatStartEndPattern(vocabulary), PatternCase::Insensitive);
+  Pattern pattern =
+      keptPattern(vocabulary, PatternCase::Insensitive, [&] { return repeatStartEndPattern(vocabulary); });
   PatternMatch match;
   if (!pattern.search(title, match)) return false;
   StringRRule rule;

@@ -87,7 +87,9 @@ void NLPNativeTitleParser::applyWeekDayLead(std::tm* record, std::wstring lead, 
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnWeekDay(std::wstring title, Vocabulary vocabulary) {
   PatternMatch match;
-  if (!compilePattern(getDayOfWeekRecog(vocabulary), PatternCase::Insensitive).search(title, match)) {
+  if (!keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+         return getDayOfWeekRecog(vocabulary);
+       }).search(title, match)) {
     return std::nullopt;
   }
   TMPtr record = getDefaultTM();
