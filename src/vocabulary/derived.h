@@ -51,6 +51,23 @@ const Pattern& keptPattern(const Vocabulary& vocabulary, PatternCase mode, Build
       vocabulary, [&] { return compilePattern(build(), mode); }, variant);
 }
 
+// A pattern with a guard: a part that every match of the pattern must contain
+// (a group the pattern cannot do without, same case mode, no back references).
+// Where the guard finds nothing the pattern cannot match either, so its search
+// is skipped; the guard is a plain alternation and scans in one pass where the
+// whole pattern would go back over long runs of blanks.
+struct GuardedPattern {
+  Pattern guard;
+  Pattern full;
+  bool search(const std::wstring& subject, PatternMatch& match) const {
+    if (!guard.search(subject)) {
+      match.reset(&subject, 0);  // as a failed search leaves it
+      return false;
+    }
+    return full.search(subject, match);
+  }
+};
+
 // For variants named by a constant text (a pattern template).
 inline std::uint64_t variantOf(const void* constant) { return reinterpret_cast<std::uintptr_t>(constant); }
 

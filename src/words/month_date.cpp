@@ -47,9 +47,11 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonth(std::wstring 
       }).search(title, match)) {
     return readMonthWithClock(*this, match, {6, 5, 2, 3}, vocabulary);
   }
-  if (keptPattern(vocabulary, PatternCase::Insensitive, [&] {
-        return getEnMonthRecognition(vocabulary);
-      }).search(title, match)) {
+  const GuardedPattern& main = keptFor(vocabulary, [&] {
+    return GuardedPattern{compilePattern(getEnMonthWords(vocabulary), PatternCase::Insensitive),
+                          compilePattern(getEnMonthRecognition(vocabulary), PatternCase::Insensitive)};
+  });
+  if (main.search(title, match)) {
     return readMainMonthDate(*this, title, match, vocabulary);
   }
   if (keptPattern(vocabulary, PatternCase::Insensitive, [&] {

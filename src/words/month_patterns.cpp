@@ -78,6 +78,10 @@ bool isVocabularyLanguage(const Vocabulary& vocabulary, const wchar_t* code) {
   return vocabulary[LOCAL].find(code) != std::wstring::npos;
 }
 
+const std::wstring& getEnMonthWords(const Vocabulary& vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring { return L"(" + mainMonths(vocabulary) + L")"; });
+}
+
 const std::wstring& getEnMonthRecognition(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     return fillPieces(kMain, {{L"addWordBorderInStartAndEnd(ON_BY)", addWordBorderInStartAndEnd(vocabulary[ON_BY])},

@@ -10,6 +10,8 @@
 namespace nlpdate {
 
 const std::wstring& getEnMonthRecognition(Vocabulary vocabulary);
+// The month words of the pattern above (one group): every match of it holds one.
+const std::wstring& getEnMonthWords(const Vocabulary& vocabulary);
 // Second looks when two numbers stand around the month.
 const std::wstring& getEnMonthRecognitionStartWithMonth(Vocabulary vocabulary);
 const std::wstring& getEnMonthRecognitionStartWithDay(Vocabulary vocabulary);

@@ -34,16 +34,22 @@ bool startsWithAlternative(const std::wstring& text, const std::wstring& alterna
 
 }  // namespace
 
-const std::wstring& getDayOfWeekRecog(Vocabulary vocabulary) {
+const std::wstring& getDayOfWeekWords(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     const bool isEnglish = has(vocabulary[LOCAL], L"en");
-    return L"(^|" + vocabulary[NEXT] + L"|\\b" + vocabulary[LAST] + L"|\\b" + vocabulary[THIS] + L"|" +
-           addWordBorderInStart(vocabulary[ON_BY]) + L"|\\b)?\\s*(" + addWordBorderInEndWithEnd(vocabulary[SUNDAY]) +
-           L"|" + addWordBorderInStartAndEnd(vocabulary[MONDAY], isEnglish) + L"|" +
+    return L"(" + addWordBorderInEndWithEnd(vocabulary[SUNDAY]) + L"|" +
+           addWordBorderInStartAndEnd(vocabulary[MONDAY], isEnglish) + L"|" +
            addWordBorderInEndWithEnd(vocabulary[TUESDAY]) + L"|" + addWordBorderInEndWithEnd(vocabulary[WEDNESDAY]) +
            L"|" + addWordBorderInEndWithEnd(vocabulary[THURSDAY]) + L"|" +
            addWordBorderInEndWithEnd(vocabulary[FRIDAY]) + L"|" + addWordBorderInEndWithEnd(vocabulary[SATURDAY]) +
-           L"|" + vocabulary[WEEKEND] + L"\\b|" + addWordBorderInEndWithEnd(vocabulary[WEEK]) + L")\\s*(" +
+           L"|" + vocabulary[WEEKEND] + L"\\b|" + addWordBorderInEndWithEnd(vocabulary[WEEK]) + L")";
+  });
+}
+
+const std::wstring& getDayOfWeekRecog(Vocabulary vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring {
+    return L"(^|" + vocabulary[NEXT] + L"|\\b" + vocabulary[LAST] + L"|\\b" + vocabulary[THIS] + L"|" +
+           addWordBorderInStart(vocabulary[ON_BY]) + L"|\\b)?\\s*" + getDayOfWeekWords(vocabulary) + L"\\s*(" +
            addWordBorderInStart(vocabulary[NEXT]) + L"|\\b" + vocabulary[LAST] + L"|\\b" + vocabulary[THIS] +
            L"|\\b)?\\s*";
   });
@@ -87,9 +93,13 @@ void NLPNativeTitleParser::applyWeekDayLead(std::tm* record, std::wstring lead, 
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnWeekDay(std::wstring title, Vocabulary vocabulary) {
   PatternMatch match;
-  if (!keptPattern(vocabulary, PatternCase::Insensitive, [&] {
-         return getDayOfWeekRecog(vocabulary);
-       }).search(title, match)) {
+  // The weekday words must be in any match: where they are not, the whole
+  // pattern, which runs slowly over long runs of blanks, is not searched.
+  const GuardedPattern& weekday = keptFor(vocabulary, [&] {
+    return GuardedPattern{compilePattern(getDayOfWeekWords(vocabulary), PatternCase::Insensitive),
+                          compilePattern(getDayOfWeekRecog(vocabulary), PatternCase::Insensitive)};
+  });
+  if (!weekday.search(title, match)) {
     return std::nullopt;
   }
   TMPtr record = getDefaultTM();

@@ -15,5 +15,7 @@ WeekDay translateDayOfWeek(std::wstring word, int today, Vocabulary vocabulary);
 
 // Three groups: the word before the day, the day, the word after the day.
 const std::wstring& getDayOfWeekRecog(Vocabulary vocabulary);
+// The weekday words alone (one group): every match of the pattern above holds one.
+const std::wstring& getDayOfWeekWords(const Vocabulary& vocabulary);
 
 }  // namespace nlpdate
