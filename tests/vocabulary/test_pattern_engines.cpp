@@ -10,57 +10,14 @@
 #include <memory>
 #include <string>
 
-#include "vocabulary/pattern_engine.h"
 #include "nlpdate/nlpdate.h"
+#include "support/engine_compare.h"
+#include "vocabulary/pattern_engine.h"
 #include "vocabulary/pattern_record.h"
 
 using namespace nlpdate;
 
 namespace {
-
-// Groups inside a negative lookahead: ECMAScript leaves them unset, but the
-// reference engine leaks what a failed lookahead captured. No code reads them.
-std::vector<bool> groupsInNegativeLookahead(const std::wstring& pattern) {
-  std::vector<bool> hidden(1, false);
-  std::vector<bool> frames;  // per open parenthesis: inside a negative lookahead
-  bool inClass = false;
-  for (size_t i = 0; i < pattern.size(); ++i) {
-    const wchar_t c = pattern[i];
-    if (c == L'\\') {
-      ++i;
-    } else if (inClass) {
-      inClass = c != L']';
-    } else if (c == L'[') {
-      inClass = true;
-    } else if (c == L'(') {
-      const bool outer = !frames.empty() && frames.back();
-      const bool negative = pattern.compare(i + 1, 2, L"?!") == 0;
-      if (i + 1 < pattern.size() && pattern[i + 1] != L'?') hidden.push_back(outer);
-      frames.push_back(outer || negative);
-    } else if (c == L')' && !frames.empty()) {
-      frames.pop_back();
-    }
-  }
-  return hidden;
-}
-
-std::string describe(bool found, const PatternMatch& match, const std::vector<bool>& hidden) {
-  if (!found) return "no match";
-  std::string text;
-  for (size_t i = 0; i < match.size(); ++i) {
-    if (i < hidden.size() && hidden[i]) continue;
-    text += "[" + std::to_string(match.position(i)) + "," + std::to_string(match.length(i)) + "]";
-  }
-  return text;
-}
-
-std::string describe(bool found, const PatternMatch& match) { return describe(found, match, {}); }
-
-std::string describeAll(const std::vector<PatternMatch>& matches, const std::vector<bool>& hidden) {
-  std::string text;
-  for (const PatternMatch& match : matches) text += describe(true, match, hidden) + ";";
-  return text;
-}
 
 // Sanitizer builds replay every n-th operation: the reference engine is slow there.
 #ifdef NLPDATE_DIFF_STRIDE
@@ -92,9 +49,9 @@ TEST(PatternEngines, GroupsInsideANegativeLookaheadAreFound) {
 TEST(PatternEngines, BothEnginesAgreeOnKnownTraps) {
   if (!hasPcre2Engine()) GTEST_SKIP() << "built without PCRE2";
   const std::vector<std::pair<std::wstring, std::wstring>> cases = {
-      {L"a$", L"a\n"},          {L"\\bété\\b", L"l'été"},   {L"(?:x|(y))z", L"xz"},
-      {L"\\s+", L"a\u00a0 b"},  {L".+", L"ab\u2028cd"},     {L"É", L"é"},
-      {L"^(a)|b", L"cab"},      {L"(\\d+)?x", L"x"},        {L"a(?!b)", L"ab ac"},
+      {L"a$", L"a\n"},         {L"\\bété\\b", L"l'été"}, {L"(?:x|(y))z", L"xz"},
+      {L"\\s+", L"a\u00a0 b"}, {L".+", L"ab\u2028cd"},   {L"É", L"é"},
+      {L"^(a)|b", L"cab"},     {L"(\\d+)?x", L"x"},      {L"a(?!b)", L"ab ac"},
   };
   for (const auto& [pattern, subject] : cases) {
     for (PatternCase mode : {PatternCase::Sensitive, PatternCase::Insensitive}) {
@@ -167,8 +124,7 @@ TEST(PatternEngines, EveryRecordedOperationAgrees) {
       }
     }
   }
-  std::printf("replayed %zu operations over %zu patterns, %zu differences\n", operations, compiled.size(),
-              differences);
+  std::printf("replayed %zu operations over %zu patterns, %zu differences\n", operations, compiled.size(), differences);
   EXPECT_GT(operations, 100000u / kStride);
   EXPECT_EQ(differences, 0u);
 }
