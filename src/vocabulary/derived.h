@@ -13,6 +13,7 @@
 
 #include "core/types.h"
 #include "vocabulary/pattern_kit.h"
+#include "vocabulary/word_guard.h"
 
 namespace nlpdate {
 
@@ -56,11 +57,22 @@ const Pattern& keptPattern(const Vocabulary& vocabulary, PatternCase mode, Build
 // Where the guard finds nothing the pattern cannot match either, so its search
 // is skipped; the guard is a plain alternation and scans in one pass where the
 // whole pattern would go back over long runs of blanks.
+// When each alternative of the part starts with literal text (a word list),
+// a plain test for those texts stands in for the guard's search.
 struct GuardedPattern {
   Pattern guard;
   Pattern full;
+  WordGuard words = WordGuard();
+
+  // group: the part as one group, "(...)".
+  static GuardedPattern of(const std::wstring& group, const std::wstring& whole, PatternCase mode) {
+    return GuardedPattern{compilePattern(group, mode), compilePattern(whole, mode),
+                          WordGuard(group.substr(1, group.size() - 2))};
+  }
+
   bool search(const std::wstring& subject, PatternMatch& match) const {
-    if (!guard.search(subject)) {
+    const bool mayMatch = words.usable() ? words.mayMatch(subject) : guard.search(subject);
+    if (!mayMatch) {
       match.reset(&subject, 0);  // as a failed search leaves it
       return false;
     }

@@ -48,8 +48,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonth(std::wstring 
     return readMonthWithClock(*this, match, {6, 5, 2, 3}, vocabulary);
   }
   const GuardedPattern& main = keptFor(vocabulary, [&] {
-    return GuardedPattern{compilePattern(getEnMonthWords(vocabulary), PatternCase::Insensitive),
-                          compilePattern(getEnMonthRecognition(vocabulary), PatternCase::Insensitive)};
+    return GuardedPattern::of(getEnMonthWords(vocabulary), getEnMonthRecognition(vocabulary), PatternCase::Insensitive);
   });
   if (main.search(title, match)) {
     return readMainMonthDate(*this, title, match, vocabulary);

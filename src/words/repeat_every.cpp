@@ -99,9 +99,12 @@ bool matchRepeatEvery(NLPNativeTitleParser& parser, const std::wstring& title, c
   });
   // Every row holds the every-word as a group it cannot do without; a title
   // without one is spared the rows, which go back and forth over long blank runs.
-  const Pattern& everyWord =
-      keptPattern(vocabulary, PatternCase::Insensitive, [&] { return L"(" + vocabulary[EVERY] + L")"; });
-  if (!everyWord.search(title)) return false;
+  const WordGuard& everyWord = keptFor(vocabulary, [&] { return WordGuard(vocabulary[EVERY]); });
+  const bool mayHoldEvery =
+      everyWord.usable() ? everyWord.mayMatch(title) : keptPattern(vocabulary, PatternCase::Insensitive, [&] {
+                                                         return L"(" + vocabulary[EVERY] + L")";
+                                                       }).search(title);
+  if (!mayHoldEvery) return false;
   for (const auto& [pattern, frequency] : rows) {
     PatternMatch match;
     if (!pattern.search(title, match)) continue;

@@ -96,8 +96,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnWeekDay(std::wstrin
   // The weekday words must be in any match: where they are not, the whole
   // pattern, which runs slowly over long runs of blanks, is not searched.
   const GuardedPattern& weekday = keptFor(vocabulary, [&] {
-    return GuardedPattern{compilePattern(getDayOfWeekWords(vocabulary), PatternCase::Insensitive),
-                          compilePattern(getDayOfWeekRecog(vocabulary), PatternCase::Insensitive)};
+    return GuardedPattern::of(getDayOfWeekWords(vocabulary), getDayOfWeekRecog(vocabulary), PatternCase::Insensitive);
   });
   if (!weekday.search(title, match)) {
     return std::nullopt;
