@@ -80,6 +80,15 @@ struct GuardedPattern {
   }
 };
 
+// The word guard of a group text "(...)" that build() makes from the vocabulary.
+template <class Build>
+const WordGuard& keptWordGuard(const Vocabulary& vocabulary, Build build) {
+  return keptFor(vocabulary, [&] {
+    const std::wstring group = build();
+    return WordGuard(group.substr(1, group.size() - 2));
+  });
+}
+
 // For variants named by a constant text (a pattern template).
 inline std::uint64_t variantOf(const void* constant) { return reinterpret_cast<std::uintptr_t>(constant); }
 

@@ -82,6 +82,10 @@ const std::wstring& getEnMonthWords(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring { return L"(" + mainMonths(vocabulary) + L")"; });
 }
 
+const WordGuard& monthWordGuard(const Vocabulary& vocabulary) {
+  return keptWordGuard(vocabulary, [&] { return getEnMonthWords(vocabulary); });
+}
+
 const std::wstring& getEnMonthRecognition(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     return fillPieces(kMain, {{L"addWordBorderInStartAndEnd(ON_BY)", addWordBorderInStartAndEnd(vocabulary[ON_BY])},

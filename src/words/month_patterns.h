@@ -6,12 +6,14 @@
 #include <string>
 
 #include "core/types.h"
+#include "vocabulary/word_guard.h"
 
 namespace nlpdate {
 
 const std::wstring& getEnMonthRecognition(Vocabulary vocabulary);
 // The month words of the pattern above (one group): every match of it holds one.
 const std::wstring& getEnMonthWords(const Vocabulary& vocabulary);
+const WordGuard& monthWordGuard(const Vocabulary& vocabulary);
 // Second looks when two numbers stand around the month.
 const std::wstring& getEnMonthRecognitionStartWithMonth(Vocabulary vocabulary);
 const std::wstring& getEnMonthRecognitionStartWithDay(Vocabulary vocabulary);

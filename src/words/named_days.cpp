@@ -10,7 +10,7 @@
 
 namespace nlpdate {
 
-const std::wstring& getSpecialDayRecognition(Vocabulary vocabulary) {
+const std::wstring& getSpecialDayWords(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     // Russian words for tomorrow are bordered at both ends.
     const bool isRussian = vocabulary[LOCAL].find(L"ru") != std::wstring::npos;
@@ -18,15 +18,25 @@ const std::wstring& getSpecialDayRecognition(Vocabulary vocabulary) {
         isRussian ? addWordBorderInStartAndEnd(vocabulary[TOMORROW]) : addWordBorderInEnd(vocabulary[TOMORROW]);
     return L"(" + addWordBorderInEnd(vocabulary[YESTERDAY]) + L"|" + addWordBorderInEnd(vocabulary[TODAY]) + L"|" +
            addWordBorderInEnd(vocabulary[DAY_AFTER_TOMORROW]) + L"|" + tomorrowWord + L"|" +
-           addWordBorderInEnd(vocabulary[TONIGHT]) + L")(\\s)*";
+           addWordBorderInEnd(vocabulary[TONIGHT]) + L")";
   });
+}
+
+const std::wstring& getSpecialDayRecognition(Vocabulary vocabulary) {
+  return keptFor(vocabulary, [&]() -> std::wstring { return getSpecialDayWords(vocabulary) + L"(\\s)*"; });
+}
+
+const WordGuard& specialDayWordGuard(const Vocabulary& vocabulary) {
+  return keptWordGuard(vocabulary, [&] { return getSpecialDayWords(vocabulary); });
 }
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnSpecialDate(std::wstring title, Vocabulary vocabulary) {
   PatternMatch match;
-  if (!keptPattern(vocabulary, PatternCase::Insensitive, [&] {
-         return getSpecialDayRecognition(vocabulary);
-       }).search(title, match)) {
+  const GuardedPattern& named = keptFor(vocabulary, [&] {
+    return GuardedPattern::of(getSpecialDayWords(vocabulary), getSpecialDayRecognition(vocabulary),
+                              PatternCase::Insensitive);
+  });
+  if (!named.search(title, match)) {
     return std::nullopt;
   }
   TMPtr record = getDefaultTM();

@@ -99,6 +99,8 @@ void applySecondDayWord(NLPNativeTitleParser& parser, std::tm* end, const std::w
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDayWordDuration(const std::wstring& title,
                                                                              const Vocabulary& vocabulary) {
+  // Every form opens with a named day: without one none can match.
+  if (!specialDayWordGuard(vocabulary).mayMatch(title)) return std::nullopt;
   struct Forms {
     std::vector<Pattern> timed;
     Pattern dayWords;
@@ -160,7 +162,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDayWordDuration(con
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (forms.month.search(title, match)) {
+  if (monthWordGuard(vocabulary).mayMatch(title) && forms.month.search(title, match)) {
     applyFirstDayWord(*this, start.get(), toLowerCase(match.str(kFirstWordGroup)), vocabulary, DayWordUse::Date);
     TMPtr end = getEnMonthCalendar(match.str(kMonthGroup), vocabulary);
     if (!match.str(kMonthDayBeforeGroup).empty()) {
@@ -180,7 +182,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDayWordDuration(con
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (forms.weekday.search(title, match)) {
+  if (weekdayWordGuard(vocabulary).mayMatch(title) && forms.weekday.search(title, match)) {
     applyFirstDayWord(*this, start.get(), toLowerCase(match.str(kFirstWordGroup)), vocabulary, DayWordUse::Date);
     TMPtr end = getDefaultTM();
     const WeekDay target = translateDayOfWeek(match.str(kWeekDayGroup), end->tm_wday, vocabulary);

@@ -105,7 +105,10 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonthDuration(std::
   });
   PatternMatch match;
 
-  for (const Pattern& form : forms.monthTimed) {
+  // Every form but the bare-day one holds a month word.
+  const bool mayHoldMonth = monthWordGuard(vocabulary).mayMatch(title);
+  static const std::vector<Pattern> kNoForms;
+  for (const Pattern& form : mayHoldMonth ? forms.monthTimed : kNoForms) {
     if (!form.search(title, match)) continue;
     // A numeric date's tail must not pass for a month range.
     const long at = match.position(0);
@@ -145,7 +148,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonthDuration(std::
     return makeRangeResult(match, start, end, ON_TIME);
   }
 
-  if (forms.months.search(title, match)) {
+  if (mayHoldMonth && forms.months.search(title, match)) {
     TMPtr start = getEnMonthCalendar(match.str(kFirstMonthGroup), vocabulary);
     // Here the day before the month wins.
     start->tm_mday = dayOf(*this, match.str(kFirstDayBeforeGroup), match.str(kFirstDayBehindGroup), 1);
@@ -158,7 +161,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonthDuration(std::
     return makeRangeResult(match, start, end, L"");
   }
 
-  if (forms.monthDay.search(title, match)) {
+  if (mayHoldMonth && forms.monthDay.search(title, match)) {
     TMPtr start = getEnMonthCalendar(match.str(kDayRangeMonthGroup), vocabulary);
     start->tm_mday = translateNum(match.str(kDayRangeFirstDayGroup));
     const std::wstring year = match.str(kDayRangeYearGroup);

@@ -84,6 +84,8 @@ int readWeekHour(NLPNativeTitleParser& parser, const std::wstring& hourText, con
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnWeekDayDuration(std::wstring title,
                                                                              Vocabulary vocabulary) {
+  // Both forms open with a weekday: without a weekday word neither can match.
+  if (!weekdayWordGuard(vocabulary).mayMatch(title)) return std::nullopt;
   struct Forms {
     std::vector<Pattern> timed;
     Pattern plain;

@@ -46,6 +46,10 @@ const std::wstring& getDayOfWeekWords(const Vocabulary& vocabulary) {
   });
 }
 
+const WordGuard& weekdayWordGuard(const Vocabulary& vocabulary) {
+  return keptWordGuard(vocabulary, [&] { return getDayOfWeekWords(vocabulary); });
+}
+
 const std::wstring& getDayOfWeekRecog(Vocabulary vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     return L"(^|" + vocabulary[NEXT] + L"|\\b" + vocabulary[LAST] + L"|\\b" + vocabulary[THIS] + L"|" +

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/types.h"
+#include "vocabulary/word_guard.h"
 
 namespace nlpdate {
 
@@ -17,5 +18,6 @@ WeekDay translateDayOfWeek(std::wstring word, int today, Vocabulary vocabulary);
 const std::wstring& getDayOfWeekRecog(Vocabulary vocabulary);
 // The weekday words alone (one group): every match of the pattern above holds one.
 const std::wstring& getDayOfWeekWords(const Vocabulary& vocabulary);
+const WordGuard& weekdayWordGuard(const Vocabulary& vocabulary);
 
 }  // namespace nlpdate

@@ -12,6 +12,7 @@
 #include "vocabulary/keys.h"
 #include "vocabulary/translation.h"
 #include "words/month_patterns.h"
+#include "words/named_days.h"
 #include "words/weekdays.h"
 
 namespace nlpdate {
@@ -153,6 +154,16 @@ TEST(GuardedPatterns, MonthGuardNeverChangesAMatch) {
         GuardedPattern::of(getEnMonthWords(vocabulary), getEnMonthRecognition(vocabulary), PatternCase::Insensitive);
     expectSameAsWhole(guarded, wordTitles(vocabulary, {&JANUARY, &FEBRUARY, &MARCH, &APRIL, &MAY, &JUNE, &JULY, &AUGUST,
                                                        &SEPTEMBER, &OCTOBER, &NOVEMBER, &DECEMBER}));
+  }
+}
+
+TEST(GuardedPatterns, NamedDayGuardNeverChangesAMatch) {
+  for (const wchar_t* code : {L"en", L"fr", L"ru", L"ja", L"ko", L"pt"}) {
+    const Vocabulary vocabulary = NLPTranslation::getTransKeyToValue(code);
+    const GuardedPattern guarded = GuardedPattern::of(getSpecialDayWords(vocabulary),
+                                                      getSpecialDayRecognition(vocabulary), PatternCase::Insensitive);
+    EXPECT_TRUE(guarded.words.usable());
+    expectSameAsWhole(guarded, wordTitles(vocabulary, {&YESTERDAY, &TODAY, &TOMORROW, &DAY_AFTER_TOMORROW, &TONIGHT}));
   }
 }
 
