@@ -74,14 +74,20 @@ std::vector<std::wstring> fillTimePatterns(NLPNativeTitleParser& parser, const w
 
 }  // namespace
 
-std::vector<std::wstring> NLPNativeTitleParser::getMatchTimePattern() { return fillTimePatterns(*this, kTimePatterns); }
-
-std::vector<std::wstring> NLPNativeTitleParser::getMatchTimePatternOutClock() {
-  return fillTimePatterns(*this, kOutClockPatterns);
+// The lists are constant: filled once.
+const std::vector<std::wstring>& NLPNativeTitleParser::getMatchTimePattern() {
+  static const std::vector<std::wstring> patterns = fillTimePatterns(*this, kTimePatterns);
+  return patterns;
 }
 
-std::vector<std::wstring> NLPNativeTitleParser::getMatchTimePatternWithoutClockWord() {
-  return fillTimePatterns(*this, kWithoutClockWordPatterns);
+const std::vector<std::wstring>& NLPNativeTitleParser::getMatchTimePatternOutClock() {
+  static const std::vector<std::wstring> patterns = fillTimePatterns(*this, kOutClockPatterns);
+  return patterns;
+}
+
+const std::vector<std::wstring>& NLPNativeTitleParser::getMatchTimePatternWithoutClockWord() {
+  static const std::vector<std::wstring> patterns = fillTimePatterns(*this, kWithoutClockWordPatterns);
+  return patterns;
 }
 
 }  // namespace nlpdate

@@ -16,7 +16,8 @@ namespace nlpdate {
 namespace {
 
 const wchar_t* const kNewYearPattern =
-    L"(农历|老历|旧历)?((\\d{2,4})[年|\\s])?(农历|老历|旧历)?大年(三十|二十九|十五|十四|十三|十二|十一|十|初十|初九|初八|初七|初六|"
+    L"(农历|老历|旧历)?((\\d{2,4})[年|\\s])?(农历|老历|旧历)?大年(三十|二十九|十五|十四|十三|十二|十一|十|初十|初九|"
+    L"初八|初七|初六|"
     L"初五|初四|初三|初二|初一)";
 constexpr int kNewYearYearGroup = 3;
 constexpr int kNewYearDayGroup = 5;
@@ -24,13 +25,16 @@ constexpr int kNewYearDayGroup = 5;
 const wchar_t* const kLunarMonths = L"十二|十一|十|九|八|七|六|五|四|三|二|一";
 const wchar_t* const kLunarMonthWords = L"正|寒|冬|腊";
 const wchar_t* const kLunarDays =
-    L"三十|卅十|三十一|卅十一|二十九|廿十九|廿九|二十八|廿十八|廿八|二十七|廿十七|廿七|二十六|廿十六|廿六|二十五|廿十五|廿五|二十四|"
-    L"廿十四|廿四|二十三|廿十三|廿三|二十二|廿十二|廿二|二十一|廿十一|廿一|廿十|二十|十九|十八|十七|十六|十五|十四|十三|十二|十一|十|"
+    L"三十|卅十|三十一|卅十一|二十九|廿十九|廿九|二十八|廿十八|廿八|二十七|廿十七|廿七|二十六|廿十六|廿六|二十五|"
+    L"廿十五|廿五|二十四|"
+    L"廿十四|廿四|二十三|廿十三|廿三|二十二|廿十二|廿二|二十一|廿十一|廿一|廿十|二十|十九|十八|十七|十六|十五|十四|"
+    L"十三|十二|十一|十|"
     L"初十|九|初九|初八|八|初七|七|初六|六|初五|五|初四|四|初三|三|初二|二|初一|一";
 
 const wchar_t* const kLunarPatterns[] = {
     L"((\\d{2,4})[年|\\s])?(农历|老历|旧历)((\\d{2,4})[年|\\s])?(\\d{1,2}|«LM»|«LW»)(月)(\\d{1,2}|«LD»)?[日号]?",
-    L"((\\d{2,4})[年|\\s])?()(())(\\d{1,2}|«LM»)([月|\\s])(卅十|卅十一|廿十九|廿九|廿十八|廿八|廿十七|廿七|廿六|廿十五|廿五|廿十四|"
+    L"((\\d{2,4})[年|\\s])?()(())(\\d{1,2}|«LM»)([月|\\s])(卅十|卅十一|廿十九|廿九|廿十八|廿八|廿十七|廿七|廿六|廿十五|"
+    L"廿五|廿十四|"
     L"廿四|廿十三|廿三|廿十二|廿二|廿十一|廿一|廿十|初十|初九|初八|初七|初六|初五|初四|初三|初二|初一)[日号]?",
     L"((\\d{2,4})[年|\\s])?()(())(«LW»)(月)(\\d{1,2}|«LD»)?[日号]?",
 };
@@ -41,7 +45,8 @@ constexpr int kDayGroup = 8;
 
 const wchar_t* const kHolidayPrefix = L"((\\(|\\b)(\\d{2,4})[年|\\s])?\\s*";
 const wchar_t* const kHolidayNames =
-    L"(元旦|情人节|妇女节|愚人节|劳动节|儿童节|建党节|建军节|教师节|国庆节|万圣夜|平安夜|圣诞节|清明节|除夕|春节|元宵节|端午节|七夕|中元节|"
+    L"(元旦|情人节|妇女节|愚人节|劳动节|儿童节|建党节|建军节|教师节|国庆节|万圣夜|平安夜|圣诞节|清明节|除夕|春节|"
+    L"元宵节|端午节|七夕|中元节|"
     L"中秋节|重阳节|腊八节|北方小年|南方小年|小年|母亲节|父亲节|感恩节)";
 constexpr int kHolidayYearGroup = 3;
 constexpr int kHolidayNameGroup = 4;
@@ -49,10 +54,14 @@ constexpr int kHolidayNameGroup = 4;
 // The year a lunar text names: empty means "from last year on", two digits this century; -1 for none.
 int lunarYearOf(const std::wstring& text, int currentYear) {
   switch (text.size()) {
-    case 0: return currentYear - 1;
-    case 2: return std::stoi(text) + 2000;
-    case 4: return std::stoi(text);
-    default: return -1;
+    case 0:
+      return currentYear - 1;
+    case 2:
+      return std::stoi(text) + 2000;
+    case 4:
+      return std::stoi(text);
+    default:
+      return -1;
   }
 }
 
@@ -64,10 +73,13 @@ void setSolarDate(std::tm* cal, const Solar& solar) {
 
 }  // namespace
 
-std::vector<std::wstring> NLPNativeTitleParser::getLunarPattern() {
-  const PatternPieces pieces = {{L"LM", kLunarMonths}, {L"LW", kLunarMonthWords}, {L"LD", kLunarDays}};
-  std::vector<std::wstring> patterns;
-  for (const wchar_t* pattern : kLunarPatterns) patterns.push_back(fillPieces(pattern, pieces));
+const std::vector<std::wstring>& NLPNativeTitleParser::getLunarPattern() {
+  static const std::vector<std::wstring> patterns = [] {
+    const PatternPieces pieces = {{L"LM", kLunarMonths}, {L"LW", kLunarMonthWords}, {L"LD", kLunarDays}};
+    std::vector<std::wstring> filled;
+    for (const wchar_t* pattern : kLunarPatterns) filled.push_back(fillPieces(pattern, pieces));
+    return filled;
+  }();
   return patterns;
 }
 

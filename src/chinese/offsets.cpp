@@ -2,6 +2,7 @@
 // advance reminders (提前10分钟, 提前1小时30分钟, 提前提醒我). Unlike the other
 // stages these write the result record directly: the offset's time of day
 // goes to the start at once, the day part waits as the pending offset.
+#include <map>
 #include <string>
 
 #include "core/calendar_ops.h"
@@ -27,7 +28,8 @@ constexpr int kMinuteUnitGroup = 5;
 const wchar_t* const kHalfHourAfter = L"(\\d{1,3}|两|«N60»)?(个)?(半)(个)?(小时)(后|之后|以后)";
 constexpr int kHalfHoursGroup = 1;
 
-const wchar_t* const kAdvanceAmount = L"(提前|提早)(\\d{1,2}|«N60»|半|两)(分钟|小时|天|周|星期|礼拜)((\\d{1,2}|«N60»)分钟?)?";
+const wchar_t* const kAdvanceAmount =
+    L"(提前|提早)(\\d{1,2}|«N60»|半|两)(分钟|小时|天|周|星期|礼拜)((\\d{1,2}|«N60»)分钟?)?";
 constexpr int kAdvanceCount = 2;
 constexpr int kAdvanceUnit = 3;
 constexpr int kAdvanceMinutes = 5;
@@ -39,8 +41,13 @@ constexpr int kDefaultAdvanceMinutes = 5;
 
 }  // namespace
 
-std::wstring NLPNativeTitleParser::fillChineseNumbers(const wchar_t* pattern) {
-  return fillPieces(pattern, {{L"N60", getChinaNumPattern(60)}});
+// Filled once per pattern constant and thread.
+const std::wstring& NLPNativeTitleParser::fillChineseNumbers(const wchar_t* pattern) {
+  thread_local std::map<const wchar_t*, std::wstring> filled;
+  auto found = filled.find(pattern);
+  if (found == filled.end())
+    found = filled.emplace(pattern, fillPieces(pattern, {{L"N60", getChinaNumPattern(60)}})).first;
+  return found->second;
 }
 
 // Work days are counted over the official calendar, holidays and make-up days included.

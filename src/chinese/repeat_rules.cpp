@@ -2,6 +2,7 @@
 // 法定工作日 and the general 每 form (每天, 每周三, 每月15号, 每两周, 每工作日...).
 // The first form that matches writes the rule and tells the driver the first
 // date it yields. A 每 that names no unit sets nothing.
+#include <map>
 #include <string>
 
 #include "core/calendar_ops.h"
@@ -20,13 +21,15 @@ constexpr int kYearDayMonth = 2;
 constexpr int kYearDayDay = 3;
 
 const wchar_t* const kNthWeekdayPattern =
-    L"每(\\d{1,2}|«N12»|两)?月((最后一|第一|第二|第三|第四|第五|最后1|第1|第2|第3|第4|第5)个?(礼拜|星期|周)([一二三四五六日1234567]))";
+    L"每(\\d{1,2}|«N12»|两)?月((最后一|第一|第二|第三|第四|第五|最后1|第1|第2|第3|第4|第5)个?(礼拜|星期|周)(["
+    L"一二三四五六日1234567]))";
 constexpr int kNthInterval = 1;
 constexpr int kNthOrdinal = 3;
 constexpr int kNthWeekday = 5;
 
 const wchar_t* const kTwoDaysPattern =
-    L"(每(周|星期)([一二三四五六七天日1234567])[和与，、 ]?(周|星期)([一二三四五六七天日1234567]))|(每月(\\d{1,2}|«N31»)([日号][和与，、 "
+    L"(每(周|星期)([一二三四五六七天日1234567])[和与，、 "
+    L"]?(周|星期)([一二三四五六七天日1234567]))|(每月(\\d{1,2}|«N31»)([日号][和与，、 "
     L"]?)(\\d{1,2}|«N31»)(日|号))";
 constexpr int kTwoWeekdays = 1;
 constexpr int kFirstWeekday = 3;
@@ -74,8 +77,17 @@ int intervalOf(NLPNativeTitleParser& parser, const std::wstring& text) {
 
 }  // namespace
 
-std::wstring NLPNativeTitleParser::fillRepeatNumbers(const wchar_t* pattern) {
-  return fillPieces(pattern, {{L"N12", getChinaNumPattern(12)}, {L"N31", getChinaNumPattern(31)}});
+// Filled once per pattern constant and thread.
+const std::wstring& NLPNativeTitleParser::fillRepeatNumbers(const wchar_t* pattern) {
+  thread_local std::map<const wchar_t*, std::wstring> filled;
+  auto found = filled.find(pattern);
+  if (found == filled.end()) {
+    found =
+        filled
+            .emplace(pattern, fillPieces(pattern, {{L"N12", getChinaNumPattern(12)}, {L"N31", getChinaNumPattern(31)}}))
+            .first;
+  }
+  return found->second;
 }
 
 void NLPNativeTitleParser::storeChineseRule(const StringRRule& rule) {

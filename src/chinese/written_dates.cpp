@@ -41,14 +41,20 @@ bool isDigitSeparator(const std::wstring& separator) {
 
 }  // namespace
 
-std::wstring NLPNativeTitleParser::getChineseMonthDayYearPattern() {
-  return fillPieces(kMonthDayYearPattern, {{L"N12", getChinaNumPattern(12)}, {L"N31", getChinaNumPattern(31)}});
+// The written-date patterns are constant: filled once.
+const std::wstring& NLPNativeTitleParser::getChineseMonthDayYearPattern() {
+  static const std::wstring pattern =
+      fillPieces(kMonthDayYearPattern, {{L"N12", getChinaNumPattern(12)}, {L"N31", getChinaNumPattern(31)}});
+  return pattern;
 }
 
-std::vector<std::wstring> NLPNativeTitleParser::getChineseDatePattern() {
-  const PatternPieces pieces = {{L"N12", getChinaNumPattern(12)}, {L"N31", getChinaNumPattern(31)}};
-  std::vector<std::wstring> patterns;
-  for (const wchar_t* pattern : kDatePatterns) patterns.push_back(fillPieces(pattern, pieces));
+const std::vector<std::wstring>& NLPNativeTitleParser::getChineseDatePattern() {
+  static const std::vector<std::wstring> patterns = [this] {
+    const PatternPieces pieces = {{L"N12", getChinaNumPattern(12)}, {L"N31", getChinaNumPattern(31)}};
+    std::vector<std::wstring> filled;
+    for (const wchar_t* pattern : kDatePatterns) filled.push_back(fillPieces(pattern, pieces));
+    return filled;
+  }();
   return patterns;
 }
 

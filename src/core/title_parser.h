@@ -91,7 +91,7 @@ class NLPNativeTitleParser {
   int translateNum(std::wstring text);
   int matchNum(std::wstring text);
   int matchEnglishNum(std::wstring text, Vocabulary vocabulary);
-  std::wstring getChinaNumPattern(int limit);
+  const std::wstring& getChinaNumPattern(int limit);
 
   // ---- title clean-up
   // ---------------------------------------------------------------
@@ -111,8 +111,8 @@ class NLPNativeTitleParser {
   void setYear(std::wstring year, TMPtr cal);
   // [chinese: further declarations go here]
   // Written dates.
-  std::wstring getChineseMonthDayYearPattern();
-  std::vector<std::wstring> getChineseDatePattern();
+  const std::wstring& getChineseMonthDayYearPattern();
+  const std::vector<std::wstring>& getChineseDatePattern();
   std::optional<NLPRecognizeDate> getMatchDateResult(const std::wstring& pattern, const std::wstring& title,
                                                      int yearGroup, int monthGroup, int dayGroup,
                                                      int yearSeparatorGroup, int monthSeparatorGroup);
@@ -128,9 +128,9 @@ class NLPNativeTitleParser {
   std::wstring getAMFlag();
   std::wstring getPMFlag();
   std::map<std::wstring, std::pair<int, int>> getSpecialHourMap();
-  std::vector<std::wstring> getMatchTimePattern();
-  std::vector<std::wstring> getMatchTimePatternOutClock();
-  std::vector<std::wstring> getMatchTimePatternWithoutClockWord();
+  const std::vector<std::wstring>& getMatchTimePattern();
+  const std::vector<std::wstring>& getMatchTimePatternOutClock();
+  const std::vector<std::wstring>& getMatchTimePatternWithoutClockWord();
   std::optional<NLPRecognizeDate> matchTime(std::optional<NLPRecognizeDate>& dateResult, std::wstring title,
                                             OptTime defaultDate, OptTM repeatDate);
   std::optional<NLPRecognizeDate> matchSpecialTime(std::wstring title);
@@ -156,13 +156,13 @@ class NLPNativeTitleParser {
   NLPRepeatResult matchRepeat(std::wstring title);
   std::optional<NLPRecognizeDate> matchAfterTime(const std::wstring& title);
   std::wstring matchAdvanceTime(std::wstring title);
-  std::vector<std::wstring> getLunarPattern();
+  const std::vector<std::wstring>& getLunarPattern();
   std::optional<NLPRecognizeDate> matchLunar(std::wstring title);
   std::wstring getHolidayDateRecognition();
   std::optional<NLPRecognizeDate> matchHoliday(std::wstring title);
   // [chinese-stages: further declarations go here]
   // Steps of matchAfterTime.
-  std::wstring fillChineseNumbers(const wchar_t* pattern);
+  const std::wstring& fillChineseNumbers(const wchar_t* pattern);
   std::optional<NLPRecognizeDate> matchUnitAfter(const std::wstring& title);
   std::optional<NLPRecognizeDate> matchWorkDaysAfter(const PatternMatch& match);
   void matchHoursMinutesAfter(const std::wstring& title, std::optional<NLPRecognizeDate>& result);
@@ -175,7 +175,7 @@ class NLPNativeTitleParser {
   void placeLunarDate(std::tm* cal, int year, int month, int day, bool yearWritten);
   void extendRuleWithLunarDate(int month, int day);
   // Forms of matchRepeat.
-  std::wstring fillRepeatNumbers(const wchar_t* pattern);
+  const std::wstring& fillRepeatNumbers(const wchar_t* pattern);
   void storeChineseRule(const StringRRule& rule);
   std::optional<NLPRepeatResult> matchYearDayRepeat(const std::wstring& title);
   std::optional<NLPRepeatResult> matchNthWeekdayRepeat(const std::wstring& title);

@@ -1,5 +1,6 @@
 // Numbers captured as text ("12", "十二", "廿三", "twenty one", "半") turned
 // into integers, and the alternation of Chinese numerals up to a limit.
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -17,17 +18,15 @@ namespace {
 // first days of the three ten-day parts of a month, Sunday as day 7, lunar
 // month names. "廿" alone is 2, not 20.
 const std::pair<const wchar_t*, int> kWholeWords[] = {
-    {L"半", 30},   {L"天", 7},    {L"1刻", 15},   {L"个", 1},    {L"一刻", 15},
-    {L"廿", 2},    {L"3刻", 45},  {L"正", 1},     {L"三刻", 45}, {L"元", 1},
-    {L"两", 2},    {L"腊", 12},   {L"零两", 2},   {L"冬", 11},   {L"中旬", 11},
-    {L"寒", 10},   {L"上旬", 1},  {L"日", 7},     {L"下旬", 21},
+    {L"半", 30},   {L"天", 7},    {L"1刻", 15}, {L"个", 1}, {L"一刻", 15}, {L"廿", 2},   {L"3刻", 45},
+    {L"正", 1},    {L"三刻", 45}, {L"元", 1},   {L"两", 2}, {L"腊", 12},   {L"零两", 2}, {L"冬", 11},
+    {L"中旬", 11}, {L"寒", 10},   {L"上旬", 1}, {L"日", 7}, {L"下旬", 21},
 };
 
 // Prefixes that carry no value of their own, in the order they are tested.
 const wchar_t* const kEmptyPrefixes[] = {L"零", L"初", L"第"};
 
-const wchar_t* const kChineseDigits[] = {L"零", L"一", L"二", L"三", L"四",
-                                         L"五", L"六", L"七", L"八", L"九"};
+const wchar_t* const kChineseDigits[] = {L"零", L"一", L"二", L"三", L"四", L"五", L"六", L"七", L"八", L"九"};
 const wchar_t* const kAsciiDigits[] = {L"0", L"1", L"2", L"3", L"4", L"5", L"6", L"7", L"8", L"9"};
 
 // Each limit's list is the new part in front of the list of the next lower limit.
@@ -36,9 +35,10 @@ const std::pair<int, const wchar_t*> kChinaNumParts[] = {
     {12, L"十二|十一|一十|十|零?九|零?八|零?七|"},
     {24, L"二十四|二十三|二十二|二十一|二十|十九|十八|十七|十六|十五|十四|十三|"},
     {31, L"三十一|三十|二十九|二十八|二十七|二十六|二十五|"},
-    {60, L"六十|五十九|五十八|五十七|五十六|五十五|五十四|五十三|五十二|五十一|五十|四十九|四十八|四十七|"
-         L"四十六|四十五|四十四|四十三|四十二|四十一|四十|三十九|三十八|三十七|三十六|三十五|三十四|三十三|"
-         L"三十二|"},
+    {60,
+     L"六十|五十九|五十八|五十七|五十六|五十五|五十四|五十三|五十二|五十一|五十|四十九|四十八|四十七|"
+     L"四十六|四十五|四十四|四十三|四十二|四十一|四十|三十九|三十八|三十七|三十六|三十五|三十四|三十三|"
+     L"三十二|"},
 };
 
 // Number words tested high to low, since containStr finds "six" inside
@@ -46,12 +46,11 @@ const std::pair<int, const wchar_t*> kChinaNumParts[] = {
 // constants are globals of another file.
 std::vector<std::pair<std::wstring, int>> englishNumberKeys() {
   return {
-      {TWENTY_FOUR, 24}, {TWENTY_THREE, 23}, {TWENTY_TWO, 22}, {TWENTY_ONE, 21}, {TWENTY, 20},
-      {NINETEEN, 19},    {EIGHTEEN, 18},     {SEVENTEEN, 17},  {SIXTEEN, 16},    {FIFTEEN, 15},
-      {FOURTEEN, 14},    {THIRTEEN, 13},     {TWELVE, 12},     {ELEVEN, 11},     {TEN, 10},
-      {ONE, 1},          {TWO, 2},           {THREE, 3},       {FOUR, 4},        {FIVE, 5},
-      {SIX, 6},          {SEVEN, 7},         {EIGHT, 8},       {NINE, 9},        {FIRST, 1},
-      {SECOND, 2},       {THIRD, 3},         {FOURTH, 4},      {FIFTH, 5},
+      {TWENTY_FOUR, 24}, {TWENTY_THREE, 23}, {TWENTY_TWO, 22}, {TWENTY_ONE, 21}, {TWENTY, 20},   {NINETEEN, 19},
+      {EIGHTEEN, 18},    {SEVENTEEN, 17},    {SIXTEEN, 16},    {FIFTEEN, 15},    {FOURTEEN, 14}, {THIRTEEN, 13},
+      {TWELVE, 12},      {ELEVEN, 11},       {TEN, 10},        {ONE, 1},         {TWO, 2},       {THREE, 3},
+      {FOUR, 4},         {FIVE, 5},          {SIX, 6},         {SEVEN, 7},       {EIGHT, 8},     {NINE, 9},
+      {FIRST, 1},        {SECOND, 2},        {THIRD, 3},       {FOURTH, 4},      {FIFTH, 5},
   };
 }
 
@@ -112,13 +111,20 @@ int NLPNativeTitleParser::matchEnglishNum(std::wstring text, Vocabulary vocabula
   return translateNum(text);
 }
 
-std::wstring NLPNativeTitleParser::getChinaNumPattern(int limit) {
-  std::wstring pattern;
-  for (const auto& [partLimit, part] : kChinaNumParts) {
-    pattern = part + pattern;
-    if (partLimit == limit) return pattern;
-  }
-  return L"";
+// The number patterns are the same for every parse: built once for every limit.
+const std::wstring& NLPNativeTitleParser::getChinaNumPattern(int limit) {
+  static const std::map<int, std::wstring> patterns = [] {
+    std::map<int, std::wstring> built;
+    std::wstring pattern;
+    for (const auto& [partLimit, part] : kChinaNumParts) {
+      pattern = part + pattern;
+      built.emplace(partLimit, pattern);
+    }
+    return built;
+  }();
+  static const std::wstring none;
+  const auto found = patterns.find(limit);
+  return found == patterns.end() ? none : found->second;
 }
 
 }  // namespace nlpdate
