@@ -148,6 +148,8 @@ std::vector<Title> adversarial() {
 void BM_Latency(benchmark::State& state, const std::string& language) { latencies(state, titlesOf(language)); }
 void BM_Adversarial(benchmark::State& state) { latencies(state, adversarial()); }
 
+void BM_LatencyAll(benchmark::State& state) { latencies(state, corpus()); }
+BENCHMARK(BM_LatencyAll)->Iterations(3);
 BENCHMARK_CAPTURE(BM_Latency, en, std::string("en"))->Iterations(3);
 BENCHMARK_CAPTURE(BM_Latency, zh_CN, std::string("zh_CN"))->Iterations(3);
 BENCHMARK_CAPTURE(BM_Latency, ja, std::string("ja"))->Iterations(3);

@@ -77,10 +77,25 @@ const std::wstring kCloseDotOrBorder = L"(?:\\)|\\.|\\b)";
 
 }  // namespace
 
+namespace {
+
+// The alternatives of a value without their "\b"s, kept per value: the same
+// few vocabulary values are tested over and over.
+const std::vector<std::wstring>& plainAlternatives(const std::wstring& pattern) {
+  thread_local std::unordered_map<std::wstring, std::vector<std::wstring>> kept;
+  auto found = kept.find(pattern);
+  if (found != kept.end()) return found->second;
+  if (kept.size() >= 4096) kept.clear();
+  std::vector<std::wstring> alternatives = splitAlternatives(pattern);
+  for (std::wstring& alternative : alternatives) eraseAll(alternative, kBorder);
+  return kept.emplace(pattern, std::move(alternatives)).first->second;
+}
+
+}  // namespace
+
 bool containStr(const std::wstring& text, const std::wstring& pattern) {
   if (pattern.empty()) return false;
-  for (std::wstring alternative : splitAlternatives(pattern)) {
-    eraseAll(alternative, kBorder);
+  for (const std::wstring& alternative : plainAlternatives(pattern)) {
     if (alternative.empty() || text.find(alternative) != std::wstring::npos) return true;
   }
   return false;
