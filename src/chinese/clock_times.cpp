@@ -37,8 +37,10 @@ bool NLPNativeTitleParser::applyChinesePeriod(std::tm* cal, int hour, const std:
                                               NLPRecognizeDate& result) {
   PatternMatch am;
   PatternMatch pm;
-  const bool hasAm = compilePattern(getAMFlag(), PatternCase::Insensitive).search(working, am);
-  const bool hasPm = compilePattern(getPMFlag(), PatternCase::Insensitive).search(working, pm);
+  const bool hasAm =
+      compiledOnce([&] { return compilePattern(getAMFlag(), PatternCase::Insensitive); }).search(working, am);
+  const bool hasPm =
+      compiledOnce([&] { return compilePattern(getPMFlag(), PatternCase::Insensitive); }).search(working, pm);
   if (!hasAm && !hasPm) return false;
   const bool afternoon = hasAm && hasPm ? am.position(0) >= pm.position(0) : hasPm;
   if (afternoon) {
@@ -70,8 +72,9 @@ void NLPNativeTitleParser::rollPastChineseTime(std::tm* cal, int hour, int minut
   if (hasColon(working)) {
     bool meant24 = false;
     for (const std::wstring& text : result.getRecogString()) meant24 = meant24 || hasColon(text);
-    meant24 = meant24 && is24DateFormat &&
-              compilePattern(L"\\b[0-2]\\d[:：]\\d{2}", PatternCase::Insensitive).search(working);
+    meant24 = meant24 && is24DateFormat && compiledOnce([&] {
+                                             return compilePattern(L"\\b[0-2]\\d[:：]\\d{2}", PatternCase::Insensitive);
+                                           }).search(working);
     if (meant24 || (minute == 0 && (hour == 12 || hour == 0)) || hour > 11) {
       cal->tm_mday += 1;
       return;
@@ -104,8 +107,9 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchTime(std::optional<NL
   }
   PatternMatch match;
   bool found = false;
-  for (const std::wstring& pattern : getMatchTimePattern()) {
-    if ((found = compilePattern(pattern, PatternCase::Insensitive).search(working, match))) break;
+  for (const Pattern& pattern :
+       compiledOnce([this] { return compileEach(getMatchTimePattern(), PatternCase::Insensitive); })) {
+    if ((found = pattern.search(working, match))) break;
   }
   if (!found) return matchLastChanceTime(title);
   TMPtr cal = getDefaultTM();
@@ -148,7 +152,8 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchTime(std::optional<NL
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchLastChanceTime(const std::wstring& title) {
   PatternMatch match;
-  if (!compilePattern(kLastChancePattern, PatternCase::Insensitive).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(kLastChancePattern, PatternCase::Insensitive); }).search(title, match))
+    return std::nullopt;
   TMPtr cal = getDefaultTM();
   setTMToDefaultTime(cal.get());
   cal->tm_min = 0;
@@ -166,7 +171,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchLastChanceTime(const 
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchSpecialTime(std::wstring title) {
   PatternMatch match;
-  if (!compilePattern(kSpecialTimePattern).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(kSpecialTimePattern); }).search(title, match)) return std::nullopt;
   TMPtr cal = getDefaultTM();
   setTMToDefaultTime(cal.get());
   NLPRecognizeDate result(match.str(0), match.position(0), OptTM(cal));

@@ -105,7 +105,7 @@ void NLPNativeTitleParser::extendRuleWithLunarDate(int month, int day) {
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchNewYearDay(const std::wstring& title) {
   PatternMatch match;
-  if (!compilePattern(kNewYearPattern).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(kNewYearPattern); }).search(title, match)) return std::nullopt;
   TMPtr cal = getDefaultTM();
   setTMToDefaultTime(cal.get());
   const std::wstring yearText = match.str(kNewYearYearGroup);
@@ -122,8 +122,8 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchLunar(std::wstring ti
   if (auto newYear = matchNewYearDay(title)) return newYear;
   PatternMatch match;
   bool found = false;
-  for (const std::wstring& pattern : getLunarPattern()) {
-    if ((found = compilePattern(pattern).search(title, match))) break;
+  for (const Pattern& pattern : compiledOnce([this] { return compileEach(getLunarPattern()); })) {
+    if ((found = pattern.search(title, match))) break;
   }
   if (!found) return std::nullopt;
   TMPtr cal = getDefaultTM();
@@ -147,7 +147,9 @@ std::wstring NLPNativeTitleParser::getHolidayDateRecognition() { return kHoliday
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchHoliday(std::wstring title) {
   PatternMatch match;
-  if (!compilePattern(kHolidayPrefix + getHolidayDateRecognition(), PatternCase::Insensitive).search(title, match)) {
+  if (!compiledOnce([&] {
+         return compilePattern(kHolidayPrefix + getHolidayDateRecognition(), PatternCase::Insensitive);
+       }).search(title, match)) {
     return std::nullopt;
   }
   const std::wstring year = match.str(kHolidayYearGroup);

@@ -3,8 +3,8 @@
 // 今晚, 明晚 and 明早 also carry a time of day.
 #include <string>
 
-#include "core/calendar_ops.h"
 #include "chinese/week_days.h"
+#include "core/calendar_ops.h"
 #include "core/title_parser.h"
 #include "values/duration.h"
 #include "vocabulary/pattern_kit.h"
@@ -32,8 +32,8 @@ void moveToWeekend(std::tm* record) {
 }  // namespace
 
 std::map<std::wstring, int> NLPNativeTitleParser::getSpecialDateMaps() {
-  return {{L"大前天", -3}, {L"前天", -2}, {L"昨天", -1}, {L"今天", 0}, {L"今日", 0}, {L"明天", 1},
-          {L"明日", 1},    {L"后天", 2},   {L"大后天", 3}, {L"今晚", 0}, {L"明早", 1}, {L"明晚", 1}};
+  return {{L"大前天", -3}, {L"前天", -2}, {L"昨天", -1},  {L"今天", 0}, {L"今日", 0}, {L"明天", 1},
+          {L"明日", 1},    {L"后天", 2},  {L"大后天", 3}, {L"今晚", 0}, {L"明早", 1}, {L"明晚", 1}};
 }
 
 std::wstring NLPNativeTitleParser::getSpecialDateRecognition() { return kSpecialDatePattern; }
@@ -42,7 +42,8 @@ std::wstring NLPNativeTitleParser::getSpecialDateRecognitionWithNextWeek() { ret
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchTodayAndSoOn(std::wstring title) {
   PatternMatch match;
-  if (!compilePattern(getSpecialDateRecognitionWithNextWeek()).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(getSpecialDateRecognitionWithNextWeek()); }).search(title, match))
+    return std::nullopt;
   TMPtr cal = getDefaultTM();
   cal->tm_hour = 0;
   cal->tm_min = 0;
@@ -77,7 +78,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchTodayAndSoOn(std::wst
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchWeekDay(std::wstring title) {
   PatternMatch match;
-  if (!compilePattern(kWeekDayPattern).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(kWeekDayPattern); }).search(title, match)) return std::nullopt;
   TMPtr cal = getDefaultTM();
   setTMToDefaultTime(cal.get());
   setDayOfWeek(cal.get(), weekDayOfNumber(matchNum(match.str(kDayGroup))), startDay);

@@ -65,7 +65,8 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchWorkDaysAfter(const P
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchUnitAfter(const std::wstring& title) {
   PatternMatch match;
-  if (!compilePattern(fillChineseNumbers(kUnitAfter)).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(fillChineseNumbers(kUnitAfter)); }).search(title, match))
+    return std::nullopt;
   if (match.str(kUnitAfterUnit) == L"工作日") return matchWorkDaysAfter(match);
   const auto duration =
       getDuration(translateNum(match.str(kUnitAfterCount)), match.str(kUnitAfterUnit), true, Vocabulary{});
@@ -93,7 +94,8 @@ int NLPNativeTitleParser::offsetHours(const std::wstring& text) { return isAnOrA
 
 void NLPNativeTitleParser::matchHoursMinutesAfter(const std::wstring& title, std::optional<NLPRecognizeDate>& result) {
   PatternMatch match;
-  if (!compilePattern(fillChineseNumbers(kHoursMinutesAfter)).search(title, match)) return;
+  if (!compiledOnce([&] { return compilePattern(fillChineseNumbers(kHoursMinutesAfter)); }).search(title, match))
+    return;
   const int hours = offsetHours(match.str(kHoursGroup));
   const std::wstring minutesText = match.str(kMinutesGroup);
   int total = hours * 60;
@@ -108,7 +110,7 @@ void NLPNativeTitleParser::matchHoursMinutesAfter(const std::wstring& title, std
 
 void NLPNativeTitleParser::matchHalfHourAfter(const std::wstring& title, std::optional<NLPRecognizeDate>& result) {
   PatternMatch match;
-  if (!compilePattern(fillChineseNumbers(kHalfHourAfter)).search(title, match)) return;
+  if (!compiledOnce([&] { return compilePattern(fillChineseNumbers(kHalfHourAfter)); }).search(title, match)) return;
   const int hours = offsetHours(match.str(kHalfHoursGroup));
   takeOffsetMatch(result, match, getDuration(hours * 60 + 30, L"分钟", true, Vocabulary{}));
 }
@@ -135,7 +137,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchAfterTime(const std::
 
 std::wstring NLPNativeTitleParser::matchAdvanceTime(std::wstring title) {
   PatternMatch match;
-  if (compilePattern(fillChineseNumbers(kAdvanceAmount)).search(title, match)) {
+  if (compiledOnce([&] { return compilePattern(fillChineseNumbers(kAdvanceAmount)); }).search(title, match)) {
     auto duration = getDuration(match.str(kAdvanceCount), match.str(kAdvanceUnit), Vocabulary{});
     if (duration) {
       if (!match.str(kAdvanceMinutes).empty()) duration->addMinutes(translateNum(match.str(kAdvanceMinutes)));
@@ -144,7 +146,7 @@ std::wstring NLPNativeTitleParser::matchAdvanceTime(std::wstring title) {
     }
     return match.str(0);
   }
-  if (!compilePattern(kAdvanceBare).search(title, match)) return std::wstring();
+  if (!compiledOnce([&] { return compilePattern(kAdvanceBare); }).search(title, match)) return std::wstring();
   parserDueDate.pendingOffset = NLPMorvaneDuration(0, 0, 0, 0, 0, kDefaultAdvanceMinutes, 0, false);
   parserDueDate.recognizeStrings.push_back(match.str(0));
   return match.str(0);

@@ -1,10 +1,10 @@
 // Reading one side of a Chinese range and joining the two sides into a start
 // and an end; the rules are told at the head of range_sides.h.
 #include "chinese/range_sides.h"
-#include "chinese/week_days.h"
 
 #include <algorithm>
 
+#include "chinese/week_days.h"
 #include "core/calendar_ops.h"
 #include "values/duration.h"
 #include "vocabulary/pattern_kit.h"
@@ -14,7 +14,8 @@ namespace nlpdate {
 namespace {
 
 const wchar_t* const kRangeWeekdayPattern =
-    L"(?:((\\d{4})年(\\d{1,2})月(\\d{1,2})日))?(本|这|这个)?(下下个|下下)?(下个|下)?(星期|礼拜|周)(一|二|三|四|五|六|日|天|1|2|3|4|5|6|7)";
+    L"(?:((\\d{4})年(\\d{1,2})月(\\d{1,2})日))?(本|这|这个)?(下下个|下下)?(下个|下)?(星期|礼拜|周)(一|二|三|四|五|六|"
+    L"日|天|1|2|3|4|5|6|7)";
 constexpr int kFullDateGroup = 1;
 constexpr int kFullYearGroup = 2;
 constexpr int kFullMonthGroup = 3;
@@ -67,7 +68,7 @@ TMPtr NLPNativeTitleParser::rangeDefaultDay() {
 
 bool NLPNativeTitleParser::readRangeWeekday(const std::wstring& text, RangeSide& side) {
   PatternMatch match;
-  if (!compilePattern(kRangeWeekdayPattern).search(text, match)) return false;
+  if (!compiledOnce([&] { return compilePattern(kRangeWeekdayPattern); }).search(text, match)) return false;
   TMPtr day = rangeDefaultDay();
   if (!match.str(kFullDateGroup).empty()) {
     // A full date before the weekday gives the day itself; its year never rolls.
@@ -98,9 +99,9 @@ bool NLPNativeTitleParser::readRangeWritten(const std::wstring& text, RangeSide&
   if (!found) return false;
   TMPtr day = copyOf(*found->getStartCal());
   const std::vector<std::wstring> patterns = getChineseDatePattern();
-  side.yearWritten = compilePattern(getChineseMonthDayYearPattern()).search(text) ||
-                     compilePattern(patterns[0]).search(text);
-  side.monthWritten = side.yearWritten || compilePattern(patterns[1]).search(text);
+  side.yearWritten = compiledOnce([&] { return compilePattern(getChineseMonthDayYearPattern()); }).search(text) ||
+                     compiledOnce([&] { return compilePattern(patterns[0]); }).search(text);
+  side.monthWritten = side.yearWritten || compiledOnce([&] { return compilePattern(patterns[1]); }).search(text);
   // Undo the single-date roll: the range decides as a whole.
   TMPtr base = rangeDefaultDay();
   if (!side.yearWritten) day->tm_year = base->tm_year;
@@ -153,8 +154,8 @@ void NLPNativeTitleParser::readRangeTime(const std::wstring& text, const std::ws
   if (!time || !time->getStartCal() || !*time->getStartCal()) return;
   side.minutes = minutesFrom(origin, time->getStartCal()->get());
   side.hasTime = true;
-  side.hasPeriod = compilePattern(getAMFlag(), PatternCase::Insensitive).search(text) ||
-                   compilePattern(getPMFlag(), PatternCase::Insensitive).search(text);
+  side.hasPeriod = compiledOnce([&] { return compilePattern(getAMFlag(), PatternCase::Insensitive); }).search(text) ||
+                   compiledOnce([&] { return compilePattern(getPMFlag(), PatternCase::Insensitive); }).search(text);
 }
 
 std::optional<RangeSide> NLPNativeTitleParser::readRangeSide(const std::wstring& text) {
@@ -165,7 +166,7 @@ std::optional<RangeSide> NLPNativeTitleParser::readRangeSide(const std::wstring&
   } else if (readRangeWritten(text, side)) {
   } else if (readRangeWeekday(text, side)) {
     PatternMatch match;
-    compilePattern(kRangeWeekdayPattern).search(text, match);
+    compiledOnce([&] { return compilePattern(kRangeWeekdayPattern); }).search(text, match);
     dateText = match.str(0);
   } else if ((named = matchTodayAndSoOn(text))) {
     side.kind = RangeDateKind::Named;
@@ -175,8 +176,9 @@ std::optional<RangeSide> NLPNativeTitleParser::readRangeSide(const std::wstring&
     side.date = day;
   }
   readRangeTime(text, dateText, side, named);
-  const bool hasDayPart = compilePattern(getAMFlag(), PatternCase::Insensitive).search(text) ||
-                          compilePattern(getPMFlag(), PatternCase::Insensitive).search(text);
+  const bool hasDayPart =
+      compiledOnce([&] { return compilePattern(getAMFlag(), PatternCase::Insensitive); }).search(text) ||
+      compiledOnce([&] { return compilePattern(getPMFlag(), PatternCase::Insensitive); }).search(text);
   if (side.kind == RangeDateKind::None && !side.hasTime && !hasDigit(text) && !hasDayPart) return std::nullopt;
   return side;
 }

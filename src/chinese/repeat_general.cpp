@@ -14,7 +14,8 @@ namespace nlpdate {
 namespace {
 
 const wchar_t* const kGeneralPattern =
-    L"每(\\d{1,2}|«N12»|两)?(个)?(日|天|礼拜|星期|周|月|年)?(工作日|周末|末)?(最后一天|最后1天|第)?(\\d{1,2}|天|日|«N31»)?(天|号|日|"
+    L"每(\\d{1,2}|«N12»|两)?(个)?(日|天|礼拜|星期|周|月|年)?(工作日|周末|末)?(最后一天|最后1天|第)?(\\d{1,2}|天|日|"
+    L"«N31»)?(天|号|日|"
     L"月)?";
 constexpr int kInterval = 1;
 constexpr int kMeasure = 2;
@@ -41,7 +42,8 @@ void replaceLast(std::list<std::wstring>& strings, const std::wstring& text) {
 NLPRepeatResult NLPNativeTitleParser::matchGeneralRepeat(const std::wstring& title) {
   const NLPRepeatResult none(std::nullopt, false);
   PatternMatch match;
-  if (!compilePattern(fillRepeatNumbers(kGeneralPattern)).search(title, match)) return none;
+  if (!compiledOnce([&] { return compilePattern(fillRepeatNumbers(kGeneralPattern)); }).search(title, match))
+    return none;
   const std::wstring unit = match.str(kUnit);
   const std::wstring workWord = match.str(kWorkWord);
   if (unit.empty() && workWord.empty()) return none;  // 每 alone sets no rule
@@ -69,7 +71,7 @@ NLPRepeatResult NLPNativeTitleParser::matchGeneralRepeat(const std::wstring& tit
   bool ruled = false;
   if (unit == L"日" || unit == L"天") {
     PatternMatch daily;
-    compilePattern(fillRepeatNumbers(kDailyPattern)).search(title, daily);
+    compiledOnce([&] { return compilePattern(fillRepeatNumbers(kDailyPattern)); }).search(title, daily);
     if (daily.str(1).empty() && daily.str(2).empty()) {
       parserDueDate.recognizeStrings.clear();  // only the bare 每 stands
       return none;

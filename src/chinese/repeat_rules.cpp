@@ -106,7 +106,8 @@ NLPRepeatResult NLPNativeTitleParser::matchRepeat(std::wstring title) {
 
 std::optional<NLPRepeatResult> NLPNativeTitleParser::matchYearDayRepeat(const std::wstring& title) {
   PatternMatch match;
-  if (!compilePattern(fillRepeatNumbers(kYearDayPattern)).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(fillRepeatNumbers(kYearDayPattern)); }).search(title, match))
+    return std::nullopt;
   StringRRule rule;
   rule.setInterval(intervalOf(*this, match.str(kYearDayInterval)));
   rule.setFreq(NLPFrequency::YEARLY);
@@ -151,7 +152,8 @@ TMPtr NLPNativeTitleParser::nthWeekdayOfMonth(int n, WeekDay weekday) {
 
 std::optional<NLPRepeatResult> NLPNativeTitleParser::matchNthWeekdayRepeat(const std::wstring& title) {
   PatternMatch match;
-  if (!compilePattern(fillRepeatNumbers(kNthWeekdayPattern)).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(fillRepeatNumbers(kNthWeekdayPattern)); }).search(title, match))
+    return std::nullopt;
   StringRRule rule;
   rule.setInterval(intervalOf(*this, match.str(kNthInterval)));
   rule.setFreq(NLPFrequency::MONTHLY);
@@ -167,7 +169,8 @@ std::optional<NLPRepeatResult> NLPNativeTitleParser::matchNthWeekdayRepeat(const
 
 std::optional<NLPRepeatResult> NLPNativeTitleParser::matchTwoDaysRepeat(const std::wstring& title) {
   PatternMatch match;
-  if (!compilePattern(fillRepeatNumbers(kTwoDaysPattern)).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(fillRepeatNumbers(kTwoDaysPattern)); }).search(title, match))
+    return std::nullopt;
   StringRRule rule;
   rule.setInterval(1);
   TMPtr cal = getDefaultTM();
@@ -199,7 +202,7 @@ std::optional<NLPRepeatResult> NLPNativeTitleParser::matchTwoDaysRepeat(const st
 
 std::optional<NLPRepeatResult> NLPNativeTitleParser::matchYearlyHolidayRepeat(const std::wstring& title) {
   PatternMatch match;
-  if (!compilePattern(kYearlyHolidayPattern).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(kYearlyHolidayPattern); }).search(title, match)) return std::nullopt;
   const auto holiday = matchHoliday(title);
   OptTM cal = holiday ? holiday->getStartCal() : std::nullopt;
   parserDueDate.recognizeStrings.push_back(match.str(0));
@@ -217,7 +220,7 @@ std::optional<NLPRepeatResult> NLPNativeTitleParser::matchYearlyHolidayRepeat(co
 
 std::optional<NLPRepeatResult> NLPNativeTitleParser::matchOfficialWorkDayRepeat(const std::wstring& title) {
   PatternMatch match;
-  if (!compilePattern(kOfficialWorkDayPattern).search(title, match)) return std::nullopt;
+  if (!compiledOnce([&] { return compilePattern(kOfficialWorkDayPattern); }).search(title, match)) return std::nullopt;
   TMPtr cal = getDefaultTM();
   while (!isOfficialWorkDay(cal.get())) {  // a work day today stays today
     cal->tm_mday += 1;

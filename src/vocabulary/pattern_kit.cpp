@@ -115,6 +115,12 @@ Pattern compilePattern(const std::wstring& text, PatternCase caseMode) {
   return cache->get(text, caseMode);
 }
 
+std::vector<Pattern> compileEach(const std::vector<std::wstring>& texts, PatternCase caseMode) {
+  std::vector<Pattern> compiled;
+  for (const std::wstring& text : texts) compiled.push_back(compilePattern(text, caseMode));
+  return compiled;
+}
+
 bool Pattern::search(const std::wstring& subject, PatternMatch& match, size_t from) const {
   match.reset(&subject, 0);
   if (!compiled_) return false;

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -84,5 +85,17 @@ class Pattern {
 
 // The compiled form of text; compiled once per process and kept.
 Pattern compilePattern(const std::wstring& text, PatternCase caseMode = PatternCase::Sensitive);
+
+// A pattern (or list of patterns) whose text never changes, compiled on the
+// first use at its call site (each lambda is a site of its own) and kept for
+// the process.
+template <class Build>
+const std::decay_t<std::invoke_result_t<Build&>>& compiledOnce(Build build) {
+  static const std::decay_t<std::invoke_result_t<Build&>> compiled = build();
+  return compiled;
+}
+
+// The patterns of a list, in its order.
+std::vector<Pattern> compileEach(const std::vector<std::wstring>& texts, PatternCase caseMode = PatternCase::Sensitive);
 
 }  // namespace nlpdate
