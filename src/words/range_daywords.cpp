@@ -113,10 +113,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnDayWordDuration(con
                             {L"MONTHDATE", getEnMonthRecognition(vocabulary)},
                             {L"WEEKDAY_RANGE", getDayOfWeekRecog(vocabulary)}};
     Forms built;
-    built.timed = compileForEachTime(*this, vocabulary, PatternCase::Insensitive, [&pieces](const std::wstring& time) {
-      pieces[L"TIME"] = time;
-      return fillPieces(kDayWordTimeRange, pieces);
-    });
+    built.timed = compileTimedForm(*this, vocabulary, kDayWordTimeRange, pieces, L"TIME");
     pieces[L"TIME"] = L"";
     built.dayWords = compilePattern(fillPieces(kDayWordRange, pieces), PatternCase::Insensitive);
     built.month = compilePattern(fillPieces(kDayWordMonthRange, pieces), PatternCase::Insensitive);

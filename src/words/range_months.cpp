@@ -89,15 +89,9 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnMonthDuration(std::
         {L"DAYONLY", fillPieces(kRangeDayOnly, {{L"DAY_OF_MONTH_DIGITAL", vocabulary[DAY_OF_MONTH_DIGITAL]},
                                                 {L"DAY_END", vocabulary[DAY_END]},
                                                 {L"FOUR_OR_TWO_YEAR_DIGITAL", vocabulary[FOUR_OR_TWO_YEAR_DIGITAL]}})}};
-    auto withTime = [&pieces](const wchar_t* form) {
-      return [&pieces, form](const std::wstring& time) {
-        pieces[L"TIME"] = time;
-        return fillPieces(form, pieces);
-      };
-    };
     Forms built;
-    built.monthTimed = compileForEachTime(*this, vocabulary, PatternCase::Insensitive, withTime(kMonthTimeRange));
-    built.dayOnlyTimed = compileForEachTime(*this, vocabulary, PatternCase::Insensitive, withTime(kDayOnlyTimeRange));
+    built.monthTimed = compileTimedForm(*this, vocabulary, kMonthTimeRange, pieces, L"TIME");
+    built.dayOnlyTimed = compileTimedForm(*this, vocabulary, kDayOnlyTimeRange, pieces, L"TIME");
     pieces[L"TIME"] = L"";
     built.months = compilePattern(fillPieces(kMonthRange, pieces), PatternCase::Insensitive);
     built.monthDay = compilePattern(fillPieces(kMonthDayRange, pieces), PatternCase::Insensitive);

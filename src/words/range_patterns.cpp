@@ -13,15 +13,15 @@ const wchar_t* const kRangeYearMonthDay =
     LR"~((\(|\b)(\d{4}|\d{2})([«DATE_DIVIDER»])?(1[0-2]|0?[1-9])([«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])(\)|\b)(\s)*)~";
 const wchar_t* const kRangeMonthDayYear =
     LR"~((\(|\b)(1[0-2]|0?[1-9])([«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])([«DATE_DIVIDER»])?(\d{4}|\d{2})?(\)|\b)(\s)*)~";
-const wchar_t* const kRangeMonthDay = LR"~((\(|\b)?(1[0-2]|0?[1-9])([«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])(\)|\b)?(\s)*)~";
+const wchar_t* const kRangeMonthDay =
+    LR"~((\(|\b)?(1[0-2]|0?[1-9])([«DATE_DIVIDER»])(3[0-1]|[0-2]?[0-9])(\)|\b)?(\s)*)~";
 const wchar_t* const kRangeDayOnly =
     LR"~((\(|\b)(\s?(«DAY_OF_MONTH_DIGITAL»))(«DAY_END»)?[ ,]( *(«FOUR_OR_TWO_YEAR_DIGITAL»))?)~";
 
 std::wstring rangeFlag(const Vocabulary& vocabulary) { return getDurationFlag(vocabulary); }
 
-RangeClock readRangeClock(NLPNativeTitleParser& parser, const std::wstring& hourText,
-                          const std::wstring& minuteText, const std::wstring& meridiemText,
-                          const Vocabulary& vocabulary, int hourLimit) {
+RangeClock readRangeClock(NLPNativeTitleParser& parser, const std::wstring& hourText, const std::wstring& minuteText,
+                          const std::wstring& meridiemText, const Vocabulary& vocabulary, int hourLimit) {
   RangeClock clock;
   clock.hour = parser.translateNum(hourText);
   clock.minute = minuteText.empty() ? 0 : parser.translateNum(minuteText);
@@ -49,6 +49,14 @@ TMPtr copyRangeRecord(const std::tm* record) {
   TMPtr copy = newTM(*record);
   mkTM(copy.get());
   return copy;
+}
+
+std::vector<Pattern> compileTimedForm(NLPNativeTitleParser& parser, const Vocabulary& vocabulary, const wchar_t* form,
+                                      PatternPieces pieces, const std::wstring& timeKey) {
+  return compileForEachTime(parser, vocabulary, PatternCase::Insensitive, [&](const std::wstring& time) {
+    pieces[timeKey] = time;
+    return fillPieces(form, pieces);
+  });
 }
 
 bool searchRange(const std::wstring& title, const std::wstring& text, PatternCase mode, PatternMatch& match) {

@@ -9,6 +9,7 @@
 #include "core/title_parser.h"
 #include "vocabulary/derived.h"
 #include "vocabulary/pattern_kit.h"
+#include "words/piece_fill.h"
 
 namespace nlpdate {
 
@@ -56,6 +57,11 @@ std::vector<Pattern> compileForEachTime(NLPNativeTitleParser& parser, const Voca
     forms.push_back(compilePattern(fill(time), mode));
   return forms;
 }
+
+// A range form holding a clock piece (named timeKey among pieces), filled with
+// each clock pattern in turn and compiled without regard to case.
+std::vector<Pattern> compileTimedForm(NLPNativeTitleParser& parser, const Vocabulary& vocabulary, const wchar_t* form,
+                                      PatternPieces pieces, const std::wstring& timeKey);
 
 // The first match of text in title; false when there is none.
 bool searchRange(const std::wstring& title, const std::wstring& text, PatternCase mode, PatternMatch& match);

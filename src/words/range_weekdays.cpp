@@ -93,10 +93,7 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnWeekDayDuration(std
   const Forms& forms = keptFor(vocabulary, [&] {
     PatternPieces pieces = {{L"day", getDayOfWeekRecog(vocabulary)}, {L"DURATION", rangeFlag(vocabulary)}};
     Forms built;
-    built.timed = compileForEachTime(*this, vocabulary, PatternCase::Insensitive, [&pieces](const std::wstring& time) {
-      pieces[L"time"] = time;
-      return fillPieces(kWeekDayTimeRange, pieces);
-    });
+    built.timed = compileTimedForm(*this, vocabulary, kWeekDayTimeRange, pieces, L"time");
     pieces[L"time"] = L"";
     built.plain = compilePattern(fillPieces(kWeekDayRange, pieces), PatternCase::Insensitive);
     return built;

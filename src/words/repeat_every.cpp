@@ -90,13 +90,7 @@ void applyYearly(NLPNativeTitleParser& parser, const PatternMatch& match, TMPtr&
 }  // namespace
 
 bool matchRepeatEvery(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
-  const auto& rows = keptFor(vocabulary, [&] {
-    std::vector<std::pair<Pattern, NLPFrequency>> compiled;
-    for (const auto& [text, frequency] : repeatEveryPatterns(vocabulary)) {
-      compiled.emplace_back(compilePattern(text, PatternCase::Insensitive), frequency);
-    }
-    return compiled;
-  });
+  const auto& rows = keptFor(vocabulary, [&] { return compileRepeatRows(repeatEveryPatterns(vocabulary)); });
   // Every row holds the every-word as a group it cannot do without; a title
   // without one is spared the rows, which go back and forth over long blank runs.
   const WordGuard& everyWord = keptFor(vocabulary, [&] { return WordGuard(vocabulary[EVERY]); });

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/types.h"
+#include "vocabulary/pattern_kit.h"
 
 namespace nlpdate {
 
@@ -21,6 +22,15 @@ const std::wstring& repeatLastDayPattern(const Vocabulary& vocabulary);
 // monthly: M1 reads a day around "every month" ("15th day of every month",
 // "every month on the last friday"), M2 a day and maybe a month right behind
 // the word for every ("every 15th", "every march 15").
+// Rows of (pattern text, frequency), compiled without regard to case, in their order.
+template <class Rows>
+std::vector<std::pair<Pattern, NLPFrequency>> compileRepeatRows(const Rows& rows) {
+  std::vector<std::pair<Pattern, NLPFrequency>> compiled;
+  for (const auto& [text, frequency] : rows)
+    compiled.emplace_back(compilePattern(text, PatternCase::Insensitive), frequency);
+  return compiled;
+}
+
 const std::vector<std::pair<std::wstring, NLPFrequency>>& repeatEveryPatterns(const Vocabulary& vocabulary);
 // "daily", "weekly", ...: tried in key order.
 const std::map<std::wstring, NLPFrequency>& repeatOneWordPatterns(const Vocabulary& vocabulary);

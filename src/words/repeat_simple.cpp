@@ -9,13 +9,7 @@
 namespace nlpdate {
 
 bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title, const Vocabulary& vocabulary) {
-  const auto& rows = keptFor(vocabulary, [&] {
-    std::vector<std::pair<Pattern, NLPFrequency>> compiled;
-    for (const auto& [text, frequency] : repeatOneWordPatterns(vocabulary)) {
-      compiled.emplace_back(compilePattern(text, PatternCase::Insensitive), frequency);
-    }
-    return compiled;
-  });
+  const auto& rows = keptFor(vocabulary, [&] { return compileRepeatRows(repeatOneWordPatterns(vocabulary)); });
   for (const auto& [pattern, frequency] : rows) {
     PatternMatch match;
     if (!pattern.search(title, match)) continue;

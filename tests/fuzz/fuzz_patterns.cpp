@@ -43,23 +43,11 @@ std::vector<EnginePair>& pairs() {
 }
 
 void loadRecordedPatterns(const std::string& path) {
-  std::unique_ptr<FILE, int (*)(FILE*)> in(popen(("gzip -dc '" + path + "'").c_str(), "r"), pclose);
-  if (!in) return;
   std::set<std::pair<std::wstring, bool>> seen;
-  std::string line;
-  char buffer[1 << 16];
-  while (fgets(buffer, sizeof buffer, in.get()) != nullptr) {
-    line += buffer;
-    if (line.back() != '\n') continue;
-    line.pop_back();
-    char operation = 0;
-    bool insensitive = false;
-    size_t from = 0;
-    std::wstring pattern;
-    std::wstring subject;
-    const bool read = nlpdate::readRecordLine(line, operation, insensitive, from, pattern, subject);
-    line.clear();
-    if (!read || !seen.insert({pattern, insensitive}).second) continue;
+  nlpdate::forEachRecordedOperation(path, [&seen](const nlpdate::RecordedOperation& recorded) {
+    const std::wstring& pattern = recorded.pattern;
+    const bool insensitive = recorded.insensitive;
+    if (!seen.insert({pattern, insensitive}).second) return;
     const PatternCase mode = insensitive ? PatternCase::Insensitive : PatternCase::Sensitive;
     try {
       EnginePair pair{pattern, nlpdate::compileWithEngine(PatternEngine::Reference, pattern, mode),
@@ -69,7 +57,7 @@ void loadRecordedPatterns(const std::string& path) {
     } catch (const std::exception&) {
       // refused by an engine: the parser answers empty either way
     }
-  }
+  });
 }
 
 const wchar_t kWide[] = {L'é',  L'è',  L'ç',  L'ã',  L'д',      L'П',      L'я',  L'三',

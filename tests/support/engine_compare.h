@@ -3,12 +3,45 @@
 // inside a negative lookahead.
 #pragma once
 
+#include <cstdio>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "vocabulary/pattern_kit.h"
+#include "vocabulary/pattern_record.h"
 
 namespace nlpdate {
+
+// One line of a recording (tests/patterns/recorded.tsv.gz).
+struct RecordedOperation {
+  char operation = 0;  // 's' search, 'w' whole match, 'a' find all
+  bool insensitive = false;
+  size_t from = 0;
+  std::wstring pattern;
+  std::wstring subject;
+};
+
+// Calls use(operation) for every readable line of a gzip'd recording; false
+// when the file cannot be opened.
+template <class Use>
+bool forEachRecordedOperation(const std::string& path, Use use) {
+  std::unique_ptr<FILE, int (*)(FILE*)> in(popen(("gzip -dc '" + path + "'").c_str(), "r"), pclose);
+  if (!in) return false;
+  std::string line;
+  char buffer[1 << 16];
+  while (fgets(buffer, sizeof buffer, in.get()) != nullptr) {
+    line += buffer;
+    if (line.empty() || line.back() != '\n') continue;
+    line.pop_back();
+    RecordedOperation recorded;
+    const bool read = readRecordLine(line, recorded.operation, recorded.insensitive, recorded.from, recorded.pattern,
+                                     recorded.subject);
+    line.clear();
+    if (read) use(recorded);
+  }
+  return true;
+}
 
 // Groups inside a negative lookahead: ECMAScript leaves them unset, but the
 // reference engine leaks what a failed lookahead captured. No code reads them.

@@ -67,26 +67,12 @@ TEST(PatternEngines, BothEnginesAgreeOnKnownTraps) {
 TEST(PatternEngines, EveryRecordedOperationAgrees) {
   if (!hasPcre2Engine()) GTEST_SKIP() << "built without PCRE2";
   const std::string path = std::string(NLPDATE_SOURCE_DIR) + "/tests/patterns/recorded.tsv.gz";
-  std::unique_ptr<FILE, int (*)(FILE*)> in(popen(("gzip -dc '" + path + "'").c_str(), "r"), pclose);
-  ASSERT_TRUE(in) << path;
   std::map<std::pair<std::wstring, bool>, EnginePair> compiled;
   size_t operations = 0;
   size_t seen = 0;
   size_t differences = 0;
-  std::string line;
-  char buffer[1 << 16];
-  while (fgets(buffer, sizeof buffer, in.get()) != nullptr) {
-    line += buffer;
-    if (line.empty() || line.back() != '\n') continue;
-    line.pop_back();
-    char operation = 0;
-    bool insensitive = false;
-    size_t from = 0;
-    std::wstring pattern;
-    std::wstring subject;
-    const bool read = readRecordLine(line, operation, insensitive, from, pattern, subject);
-    line.clear();
-    if (!read) continue;
+  const bool opened = forEachRecordedOperation(path, [&](const RecordedOperation& recorded) {
+    const auto& [operation, insensitive, from, pattern, subject] = recorded;
     auto [entry, isNew] = compiled.try_emplace({pattern, insensitive});
     EnginePair& engines = entry->second;
     if (isNew) {
@@ -99,8 +85,8 @@ TEST(PatternEngines, EveryRecordedOperationAgrees) {
       if (!engines.refused) engines.pcre2 = compileWithEngine(PatternEngine::Pcre2, pattern, mode);
       engines.hidden = groupsInNegativeLookahead(pattern);
     }
-    if (engines.refused) continue;
-    if (++seen % kStride != 0) continue;
+    if (engines.refused) return;
+    if (++seen % kStride != 0) return;
     ++operations;
     std::string a;
     std::string b;
@@ -123,7 +109,8 @@ TEST(PatternEngines, EveryRecordedOperationAgrees) {
                       << "\n  subject: " << wideToUtf8(subject) << "\n  reference: " << a << "\n  pcre2:     " << b;
       }
     }
-  }
+  });
+  ASSERT_TRUE(opened) << path;
   std::printf("replayed %zu operations over %zu patterns, %zu differences\n", operations, compiled.size(), differences);
   EXPECT_GT(operations, 100000u / kStride);
   EXPECT_EQ(differences, 0u);
