@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "vocabulary/pattern_digits.h"
 #include "vocabulary/pattern_kit.h"
 
 namespace nlpdate {
@@ -16,7 +17,8 @@ enum class PatternEngine { Reference, Pcre2 };
 // `find`, so that both engines iterate, replace and split alike.
 class CompiledPattern {
  public:
-  CompiledPattern(std::wstring text, PatternCase caseMode) : text_(std::move(text)), caseMode_(caseMode) {}
+  CompiledPattern(std::wstring text, PatternCase caseMode)
+      : text_(std::move(text)), caseMode_(caseMode), needsDigit_(everyMatchHoldsADigit(text_)) {}
   virtual ~CompiledPattern() = default;
   // The leftmost match at or after `from` (earlier text still counts for \b and
   // lookarounds; ^ only at 0). With `anchoredNotEmpty`, only a non-empty match
@@ -27,10 +29,13 @@ class CompiledPattern {
   virtual size_t groupCount() const = 0;
   const std::wstring& text() const { return text_; }
   PatternCase caseMode() const { return caseMode_; }
+  // Every match takes an ASCII digit: a subject without one is not searched.
+  bool needsDigit() const { return needsDigit_; }
 
  private:
   std::wstring text_;
   PatternCase caseMode_;
+  bool needsDigit_;
 };
 
 // The engine compilePattern uses, fixed at build time.

@@ -125,6 +125,7 @@ bool Pattern::search(const std::wstring& subject, PatternMatch& match, size_t fr
   match.reset(&subject, 0);
   if (!compiled_) return false;
   recordPatternOperation(*compiled_, 's', from, subject);
+  if (compiled_->needsDigit() && !holdsAsciiDigit(subject, from)) return false;  // as the engine would answer
   return compiled_->find(subject, from, false, match);
 }
 
@@ -137,6 +138,7 @@ bool Pattern::matchWhole(const std::wstring& subject, PatternMatch& match) const
   match.reset(&subject, 0);
   if (!compiled_) return false;
   recordPatternOperation(*compiled_, 'w', 0, subject);
+  if (compiled_->needsDigit() && !holdsAsciiDigit(subject)) return false;
   return compiled_->whole(subject, match);
 }
 
@@ -151,6 +153,7 @@ std::vector<PatternMatch> Pattern::findAll(const std::wstring& subject) const {
   std::vector<PatternMatch> all;
   if (!compiled_) return all;
   recordPatternOperation(*compiled_, 'a', 0, subject);
+  if (compiled_->needsDigit() && !holdsAsciiDigit(subject)) return all;
   PatternMatch match;
   if (!compiled_->find(subject, 0, false, match)) return all;
   while (true) {

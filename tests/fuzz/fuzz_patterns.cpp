@@ -1,6 +1,7 @@
 // libFuzzer entry: random subjects against the patterns the parser really
 // issues (the recorded corpus of the differential test), under both engines.
-// Any difference in match, position, length or group stops the run.
+// Any difference in match, position, length or group stops the run, and so
+// does a match without a digit of a pattern said to need one.
 //
 // Input layout:
 //   bytes 0-1  which recorded pattern (little-endian, modulo their count)
@@ -110,5 +111,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     b = nlpdate::describe(fb, mb, pair.hidden);
   }
   if (a != b) differ(pair, subject, a, b);
+  // A pattern that claims a digit must find nothing, unguarded, where there is none.
+  if (pair.pcre2.compiled()->needsDigit() && !nlpdate::holdsAsciiDigit(subject)) {
+    PatternMatch raw;
+    if (pair.pcre2.compiled()->find(subject, 0, false, raw) ||
+        pair.reference.compiled()->find(subject, 0, false, raw)) {
+      differ(pair, subject, "a match without a digit", "claimed a digit");
+    }
+  }
   return 0;
 }
