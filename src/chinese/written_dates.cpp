@@ -66,10 +66,11 @@ bool NLPNativeTitleParser::isOverMonthLimit(std::wstring month) {
 }
 
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchDate(std::wstring title) {
-  auto found = getMatchDateResult(getChineseMonthDayYearPattern(), title, kTailYearGroup, kTailMonthGroup,
-                                  kTailDayGroup, kTailYearSeparatorGroup, kTailMonthSeparatorGroup);
+  const Pattern& tail = compiledOnce([this] { return compilePattern(getChineseMonthDayYearPattern()); });
+  auto found = getMatchDateResult(tail, title, kTailYearGroup, kTailMonthGroup, kTailDayGroup, kTailYearSeparatorGroup,
+                                  kTailMonthSeparatorGroup);
   if (found) return found;
-  for (const std::wstring& pattern : getChineseDatePattern()) {
+  for (const Pattern& pattern : compiledOnce([this] { return compileEach(getChineseDatePattern()); })) {
     found = getMatchDateResult(pattern, title, kYearGroup, kMonthGroup, kDayGroup, kYearSeparatorGroup,
                                kMonthSeparatorGroup);
     if (found) return found;
@@ -77,13 +78,13 @@ std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchDate(std::wstring tit
   return std::nullopt;
 }
 
-std::optional<NLPRecognizeDate> NLPNativeTitleParser::getMatchDateResult(const std::wstring& pattern,
+std::optional<NLPRecognizeDate> NLPNativeTitleParser::getMatchDateResult(const Pattern& pattern,
                                                                          const std::wstring& title, int yearGroup,
                                                                          int monthGroup, int dayGroup,
                                                                          int yearSeparatorGroup,
                                                                          int monthSeparatorGroup) {
   PatternMatch match;
-  if (!compilePattern(pattern).search(title, match)) return std::nullopt;
+  if (!pattern.search(title, match)) return std::nullopt;
   TMPtr cal = getDefaultTM();
   setTMToDefaultTime(cal.get());
   std::wstring year = match.str(yearGroup);

@@ -17,8 +17,8 @@ namespace {
 bool isChineseCodePoint(wchar_t unit) {
   const unsigned long cp = static_cast<unsigned long>(unit);
   return (cp >= 0x3400 && cp <= 0x4DBF) || (cp >= 0x4E00 && cp <= 0x9FFF) || (cp >= 0x20000 && cp <= 0x2A6DF) ||
-         (cp >= 0x2A700 && cp <= 0x2B73F) || (cp >= 0x2B740 && cp <= 0x2B81F) ||
-         (cp >= 0x2B820 && cp <= 0x2CEAF) || (cp >= 0x2CEB0 && cp <= 0x2EBEF);
+         (cp >= 0x2A700 && cp <= 0x2B73F) || (cp >= 0x2B740 && cp <= 0x2B81F) || (cp >= 0x2B820 && cp <= 0x2CEAF) ||
+         (cp >= 0x2CEB0 && cp <= 0x2EBEF);
 }
 
 bool contains(const std::wstring& text, const wchar_t* part) { return text.find(part) != std::wstring::npos; }
@@ -40,7 +40,7 @@ bool holdsChineseCodePoint(const std::wstring& text) {
 bool runsChineseFirst(const std::wstring& title, const std::wstring& language) {
   // Substring tests on purpose: "zh_CN", "zh-Hant", "en_GB" all pass.
   if (!contains(language, L"zh") && !contains(language, L"en")) return false;
-  const std::wstring testCopy = compilePattern(L"，").replaceAll(title, L"");
+  const std::wstring testCopy = compiledOnce([] { return compilePattern(L"，"); }).replaceAll(title, L"");
   return holdsChineseCodePoint(testCopy);
 }
 
@@ -85,7 +85,7 @@ OptTime NLPNativeTitleParser::readBaseDate(const std::wstring& text) {
   const Pattern pattern =
       compilePattern(L"(\\d{4})-(\\d{1,2})-(\\d{1,2})T(2[0-4]|[0-1]?[0-9]):([0-5]?[0-9]):(\\d{1,2})");
   if (!pattern.search(text, match)) return std::nullopt;  // unreadable reads as none
-  TMPtr record = getDefaultTM();  // the daylight flag stays that of now
+  TMPtr record = getDefaultTM();                          // the daylight flag stays that of now
   record->tm_year = translateNum(match[1].str()) - 1900;
   record->tm_mon = translateNum(match[2].str()) - 1;
   record->tm_mday = translateNum(match[3].str());
@@ -160,9 +160,12 @@ void NLPNativeTitleParser::dropEndNotAfterStart() {
 void NLPNativeTitleParser::computeIsAllDay() { parserDueDate.isAllDay = isAllDayFromReminders(parserDueDate.reminder); }
 
 void NLPNativeTitleParser::addReminderRequest(const std::wstring& title) {
-  for (const wchar_t* request : {L"reminds? me", L"提醒我"}) {
+  const std::vector<Pattern>& requests = compiledOnce([] {
+    return compileEach({L"reminds? me", L"提醒我"}, PatternCase::Insensitive);
+  });
+  for (const Pattern& request : requests) {
     PatternMatch match;
-    if (compilePattern(request, PatternCase::Insensitive).search(title, match)) {
+    if (request.search(title, match)) {
       parserDueDate.reminder.push_back(ON_TIME);
       parserDueDate.recognizeStrings.push_back(match.str(0));
       return;

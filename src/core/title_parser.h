@@ -113,9 +113,9 @@ class NLPNativeTitleParser {
   // Written dates.
   const std::wstring& getChineseMonthDayYearPattern();
   const std::vector<std::wstring>& getChineseDatePattern();
-  std::optional<NLPRecognizeDate> getMatchDateResult(const std::wstring& pattern, const std::wstring& title,
-                                                     int yearGroup, int monthGroup, int dayGroup,
-                                                     int yearSeparatorGroup, int monthSeparatorGroup);
+  std::optional<NLPRecognizeDate> getMatchDateResult(const Pattern& pattern, const std::wstring& title, int yearGroup,
+                                                     int monthGroup, int dayGroup, int yearSeparatorGroup,
+                                                     int monthSeparatorGroup);
   std::optional<NLPRecognizeDate> matchDate(std::wstring title);
   bool isOverMonthLimit(std::wstring month);
   // Named days and weekdays.

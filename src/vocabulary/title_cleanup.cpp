@@ -61,9 +61,7 @@ bool followsAtMark(const std::wstring& title, size_t matchStart) {
 
 // Cuts all matches of pattern if the number in the given group of the first
 // match is not a year.
-void deleteUnlessYear(NLPNativeTitleParser& parser, std::wstring& title, const wchar_t* patternText,
-                      int group) {
-  Pattern pattern = compilePattern(patternText, PatternCase::Insensitive);
+void deleteUnlessYear(NLPNativeTitleParser& parser, std::wstring& title, const Pattern& pattern, int group) {
   PatternMatch match;
   if (!pattern.search(title, match)) return;
   if (isYear(parser.translateNum(match.str(group)))) return;
@@ -73,7 +71,7 @@ void deleteUnlessYear(NLPNativeTitleParser& parser, std::wstring& title, const w
 // A long digit run goes unless "@"/"at" comes before it or it reads as a
 // year. Only the first match decides, for all matches.
 void deleteLongNumber(NLPNativeTitleParser& parser, std::wstring& title) {
-  Pattern pattern = compilePattern(kLongNumber, PatternCase::Insensitive);
+  const Pattern& pattern = compiledOnce([] { return compilePattern(kLongNumber, PatternCase::Insensitive); });
   PatternMatch match;
   if (!pattern.search(title, match)) return;
   if (followsAtMark(title, static_cast<size_t>(match.position(0)))) return;
@@ -88,20 +86,31 @@ std::wstring NLPNativeTitleParser::deleteStringByRegex(std::wstring& text, const
   return text;
 }
 
-std::wstring NLPNativeTitleParser::deleteWebUrl(std::wstring& title) { return deleteStringByRegex(title, kWebUrl); }
+std::wstring NLPNativeTitleParser::deleteWebUrl(std::wstring& title) {
+  title = removeAll(title, compiledOnce([] { return compilePattern(kWebUrl); }));
+  return title;
+}
 
 std::wstring NLPNativeTitleParser::deleteNumber(std::wstring& title) {
-  deleteUnlessYear(*this, title, kHyphenBlocks, 4);
-  deleteUnlessYear(*this, title, kShortDateWithYear, 2);
-  deleteStringByRegex(title, kTwoDigitsAndBlocks);
-  deleteStringByRegex(title, kPrefixedPair);
-  deleteStringByRegex(title, kNoDayNumber);
+  // The patterns are constant: compiled once each.
+  deleteUnlessYear(*this, title, compiledOnce([] { return compilePattern(kHyphenBlocks, PatternCase::Insensitive); }),
+                   4);
+  deleteUnlessYear(*this, title,
+                   compiledOnce([] { return compilePattern(kShortDateWithYear, PatternCase::Insensitive); }), 2);
+  title = removeAll(title, compiledOnce([] { return compilePattern(kTwoDigitsAndBlocks); }));
+  title = removeAll(title, compiledOnce([] { return compilePattern(kPrefixedPair); }));
+  title = removeAll(title, compiledOnce([] { return compilePattern(kNoDayNumber); }));
   deleteLongNumber(*this, title);
   return title;
 }
 
 std::wstring NLPNativeTitleParser::deleteSerialNumber(std::wstring& title) {
-  for (const wchar_t* pattern : kSerialPatterns) deleteStringByRegex(title, pattern);
+  const std::vector<Pattern>& serials = compiledOnce([] {
+    std::vector<Pattern> compiled;
+    for (const wchar_t* pattern : kSerialPatterns) compiled.push_back(compilePattern(pattern));
+    return compiled;
+  });
+  for (const Pattern& serial : serials) title = removeAll(title, serial);
   return title;
 }
 

@@ -55,7 +55,8 @@ bool NLPNativeTitleParser::titleHasClockTime(const std::wstring& title) {
   // must hold a two-digit clock time.
   for (const std::wstring& text : parserDueDate.recognizeStrings) {
     if (text.find(L':') == std::wstring::npos && text.find(L'：') == std::wstring::npos) continue;
-    if (compilePattern(L"\\b[0-2]\\d[:：]\\d{2}", PatternCase::Insensitive).search(title)) return true;
+    if (compiledOnce([] { return compilePattern(L"\\b[0-2]\\d[:：]\\d{2}", PatternCase::Insensitive); }).search(title))
+      return true;
   }
   return false;
 }

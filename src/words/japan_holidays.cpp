@@ -23,7 +23,9 @@ const int* findHoliday(const std::map<std::wstring, int>& table, const std::wstr
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchJapanHoliday(std::wstring title, std::wstring language) {
   if (language.find(L"ja") == std::wstring::npos) return std::nullopt;
   PatternMatch match;
-  if (!compilePattern(kJapanHolidayPattern, PatternCase::Insensitive).search(title, match)) {
+  if (!compiledOnce([] {
+         return compilePattern(kJapanHolidayPattern, PatternCase::Insensitive);
+       }).search(title, match)) {
     return std::nullopt;
   }
   TMPtr record = getDefaultTM();

@@ -39,7 +39,7 @@ const std::wstring& morningWords(const Vocabulary& vocabulary) {
 }
 
 struct DayPart {
-  std::wstring pattern;
+  const Pattern& pattern;
   int hour;
   int minute;
   int limit;
@@ -59,9 +59,22 @@ std::map<std::wstring, std::pair<int, int>> NLPNativeTitleParser::getEnSpecialHo
 }
 
 OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title, std::tm* calendar, Vocabulary vocabulary) {
+  // The patterns come from the words, the hour of tonight from the settings.
+  const std::uint64_t night =
+      static_cast<std::uint64_t>(static_cast<std::uint32_t>(nightHour)) << 32 | static_cast<std::uint32_t>(nightMinute);
+  const auto& rows = keptFor(
+      vocabulary,
+      [&] {
+        std::vector<std::pair<Pattern, std::pair<int, int>>> compiled;
+        for (const auto& [text, time] : getEnSpecialHourMap(vocabulary)) {
+          compiled.emplace_back(compilePattern(text, PatternCase::Insensitive), time);
+        }
+        return compiled;
+      },
+      night);
   PatternMatch match;
-  for (const auto& [pattern, time] : getEnSpecialHourMap(vocabulary)) {
-    if (!compilePattern(pattern, PatternCase::Insensitive).search(title, match)) continue;
+  for (const auto& [pattern, time] : rows) {
+    if (!pattern.search(title, match)) continue;
     TMPtr record = getDefaultTM();
     copyTM(calendar, record.get());
     setTMToDefaultTime(record.get());
@@ -76,16 +89,23 @@ OptTM NLPNativeTitleParser::matchSpecialEnTime(std::wstring title, std::tm* cale
 }
 
 OptTM NLPNativeTitleParser::matchEnDayPart(const std::wstring& title, std::tm* calendar, Vocabulary vocabulary) {
-  const std::wstring at = L"(" + vocabulary[AT] + L")?\\s*";
+  // Morning, afternoon, evening, night: patterns from the words, hours from the settings.
+  const std::vector<Pattern>& words = keptFor(vocabulary, [&] {
+    const std::wstring at = L"(" + vocabulary[AT] + L")?\\s*";
+    return compileEach(
+        {at + morningWords(vocabulary), at + addWordBorderInStartAndEnd(vocabulary[AFTERNOON]),
+         at + addWordBorderInStartAndEnd(vocabulary[EVENING]), at + addWordBorderInStartAndEnd(vocabulary[NIGHT])},
+        PatternCase::Insensitive);
+  });
   const DayPart parts[] = {
-      {at + morningWords(vocabulary), morningHour, morningMinute, 12},
-      {at + addWordBorderInStartAndEnd(vocabulary[AFTERNOON]), afternoonHour, afternoonMinute, 17},
-      {at + addWordBorderInStartAndEnd(vocabulary[EVENING]), eveningHour, eveningMinute, 19},
-      {at + addWordBorderInStartAndEnd(vocabulary[NIGHT]), nightHour, nightMinute, 24},
+      {words[0], morningHour, morningMinute, 12},
+      {words[1], afternoonHour, afternoonMinute, 17},
+      {words[2], eveningHour, eveningMinute, 19},
+      {words[3], nightHour, nightMinute, 24},
   };
   PatternMatch match;
   for (const DayPart& part : parts) {
-    if (!compilePattern(part.pattern, PatternCase::Insensitive).search(title, match)) continue;
+    if (!part.pattern.search(title, match)) continue;
     TMPtr record = getDefaultTM();
     copyTM(calendar, record.get());
     setTMToDefaultTime(record.get());

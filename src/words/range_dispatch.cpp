@@ -8,7 +8,8 @@ namespace nlpdate {
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::englishDateDurationRecognition(std::wstring title,
                                                                                      Vocabulary vocabulary) {
   PatternMatch match;
-  if (!searchRange(title, rangeFlag(vocabulary), PatternCase::Sensitive, match)) return std::nullopt;
+  const Pattern& rangeWord = keptPattern(vocabulary, PatternCase::Sensitive, [&] { return rangeFlag(vocabulary); });
+  if (!rangeWord.search(title, match)) return std::nullopt;
   // A range word inside a longer word ("to" in "tomorrow") still lets the recognisers run.
   if (auto found = matchEnDateDuration(title, vocabulary)) return found;
   if (auto found = matchEnMonthDuration(title, vocabulary)) return found;

@@ -26,7 +26,9 @@ bool matchRepeatOneWord(NLPNativeTitleParser& parser, const std::wstring& title,
 
 bool matchOfficialWorkDays(NLPNativeTitleParser& parser, const std::wstring& title) {
   PatternMatch match;
-  if (!compilePattern(officialWorkDayPattern(), PatternCase::Sensitive).search(title, match)) {
+  if (!compiledOnce([] {
+         return compilePattern(officialWorkDayPattern(), PatternCase::Sensitive);
+       }).search(title, match)) {
     return false;
   }
   // The first official working day from today on; the rule text is fixed and

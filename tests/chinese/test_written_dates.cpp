@@ -32,7 +32,7 @@ TEST_F(WrittenDates, FullDateWithYearMonthAndDay) {
 TEST_F(WrittenDates, MonthOverTheLimitIsRefusedByThatPatternAndTheDayPatternReadsOn) {
   NLPNativeTitleParser parser = parserAt("2024-03-13T10:00:00");
   const std::wstring title = L"13月5日";
-  EXPECT_FALSE(parser.getMatchDateResult(parser.getChineseDatePattern()[1], title, 1, 3, 5, 2, 4));
+  EXPECT_FALSE(parser.getMatchDateResult(compilePattern(parser.getChineseDatePattern()[1]), title, 1, 3, 5, 2, 4));
   EXPECT_EQ(read("2024-03-13T10:00:00", "13月5日"), "5日@2024-04-05T00:00:00");
 }
 
@@ -92,9 +92,7 @@ TEST_F(WrittenDates, DotsAndBlanksSeparateToo) {
   EXPECT_EQ(read("2024-03-13T10:00:00", "2024.5.1"), "2024.5.1@2024-05-01T00:00:00");
 }
 
-TEST_F(WrittenDates, FiguresWithoutADayAreNoDate) {
-  EXPECT_EQ(read("2024-03-13T10:00:00", "3/"), "none");
-}
+TEST_F(WrittenDates, FiguresWithoutADayAreNoDate) { EXPECT_EQ(read("2024-03-13T10:00:00", "3/"), "none"); }
 
 TEST_F(WrittenDates, MonthLimitLooksAtDigitsOnly) {
   NLPNativeTitleParser parser = parserAt("2024-03-13T10:00:00");
