@@ -16,6 +16,7 @@
 #include "core/types.h"
 #include "values/duration.h"
 #include "values/rrule.h"
+#include "vocabulary/derived.h"
 #include "vocabulary/pattern_kit.h"
 
 namespace nlpdate {
@@ -273,7 +274,7 @@ class NLPNativeTitleParser {
   std::wstring getAtTimePattern(Vocabulary vocabulary);
   const std::vector<std::wstring>& getEnTimePattern(const Vocabulary& vocabulary);
   // The same, compiled without regard to case.
-  const std::vector<Pattern>& enTimePatterns(const Vocabulary& vocabulary);
+  const std::vector<GuardedPattern>& enTimePatterns(const Vocabulary& vocabulary);
   std::wstring getAmPmPattern(Vocabulary vocabulary);
   // [words-time: further declarations go here]
   int ampmToNumber(std::wstring text, Vocabulary vocabulary);

@@ -58,7 +58,8 @@ const Pattern& keptPattern(const Vocabulary& vocabulary, PatternCase mode, Build
 // is skipped; the guard is a plain alternation and scans in one pass where the
 // whole pattern would go back over long runs of blanks.
 // When each alternative of the part starts with literal text (a word list),
-// a plain test for those texts stands in for the guard's search.
+// a plain test for those texts stands in for the guard's search; with neither
+// a usable word test nor a guard pattern, the pattern is always searched.
 struct GuardedPattern {
   Pattern guard;
   Pattern full;
@@ -71,7 +72,7 @@ struct GuardedPattern {
   }
 
   bool search(const std::wstring& subject, PatternMatch& match) const {
-    const bool mayMatch = words.usable() ? words.mayMatch(subject) : guard.search(subject);
+    const bool mayMatch = words.usable() ? words.mayMatch(subject) : !guard.compiled() || guard.search(subject);
     if (!mayMatch) {
       match.reset(&subject, 0);  // as a failed search leaves it
       return false;

@@ -91,9 +91,19 @@ WordGuard::WordGuard(const std::wstring& alternation) {
 
 bool WordGuard::mayMatch(const std::wstring& text) const {
   if (!usable_) return true;
-  const std::wstring folded = foldAscii(text);
-  return std::any_of(literals_.begin(), literals_.end(),
-                     [&folded](const std::wstring& literal) { return folded.find(literal) != std::wstring::npos; });
+  // Folded as it is compared, so no copy of the text is made.
+  auto fold = [](wchar_t unit) {
+    return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit - L'A' + L'a') : unit;
+  };
+  for (const std::wstring& literal : literals_) {
+    if (literal.size() > text.size()) continue;
+    for (size_t at = 0; at + literal.size() <= text.size(); ++at) {
+      size_t k = 0;
+      while (k < literal.size() && fold(text[at + k]) == literal[k]) ++k;
+      if (k == literal.size()) return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace nlpdate

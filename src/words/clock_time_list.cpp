@@ -14,6 +14,9 @@ namespace nlpdate {
 
 namespace {
 
+// getEnTimePattern: three forms of digits, then two of number words.
+constexpr size_t kFirstNumberWordForm = 3;
+
 const std::wstring& amWordsPattern(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&]() -> std::wstring {
     return L"(" + addWordBorderInStart(vocabulary[MORNING]) + L"|" + addWordBorderInStart(vocabulary[MIDNIGHT]) +
@@ -31,11 +34,16 @@ const std::wstring& pmWordsPattern(const Vocabulary& vocabulary) {
 
 }  // namespace
 
-const std::vector<Pattern>& NLPNativeTitleParser::enTimePatterns(const Vocabulary& vocabulary) {
+// The two forms of number words cannot do without one (their group 3);
+// the three of digits are passed over by the kit where a title has none.
+const std::vector<GuardedPattern>& NLPNativeTitleParser::enTimePatterns(const Vocabulary& vocabulary) {
   return keptFor(vocabulary, [&] {
-    std::vector<Pattern> compiled;
-    for (const std::wstring& text : getEnTimePattern(vocabulary)) {
-      compiled.push_back(compilePattern(text, PatternCase::Insensitive));
+    const std::vector<std::wstring>& texts = getEnTimePattern(vocabulary);
+    std::vector<GuardedPattern> compiled;
+    for (size_t at = 0; at < texts.size(); ++at) {
+      GuardedPattern form{Pattern(), compilePattern(texts[at], PatternCase::Insensitive)};
+      if (at >= kFirstNumberWordForm) form.words = WordGuard(numberWordAlternation(vocabulary));
+      compiled.push_back(form);
     }
     return compiled;
   });
@@ -118,7 +126,7 @@ OptTM NLPNativeTitleParser::matchEnListTime(const std::wstring& title, std::tm* 
                                             bool hasDate, bool isFrench) {
   PatternMatch match;
   bool found = false;
-  for (const Pattern& pattern : enTimePatterns(vocabulary)) {
+  for (const GuardedPattern& pattern : enTimePatterns(vocabulary)) {
     if (pattern.search(title, match)) {
       found = true;
       break;

@@ -68,7 +68,7 @@ int NLPNativeTitleParser::writtenHourOf(const std::wstring& title, Vocabulary vo
       }).search(title, match)) {
     return translateNum(match[2].str());
   }
-  for (const Pattern& pattern : enTimePatterns(vocabulary)) {
+  for (const GuardedPattern& pattern : enTimePatterns(vocabulary)) {
     if (pattern.search(title, match)) {
       return matchEnglishNum(match[3].str(), vocabulary);
     }

@@ -27,6 +27,7 @@ struct OffsetPattern {
   int unitGroup;
   bool wordNumbers;  // counts may be number words, read with matchEnglishNum
   Pattern compiled = Pattern();
+  WordGuard guard = WordGuard();  // the after or later words, which the pattern cannot do without
 };
 
 const std::vector<OffsetPattern>& offsetPatterns(const Vocabulary& v) {
@@ -45,6 +46,8 @@ const std::vector<OffsetPattern>& offsetPatterns(const Vocabulary& v) {
          1, 0, 2, true},
     };
     for (OffsetPattern& row : rows) row.compiled = compilePattern(row.text, PatternCase::Insensitive);
+    rows[0].guard = rows[2].guard = WordGuard(v[AFTER]);
+    rows[1].guard = rows[3].guard = WordGuard(v[LATER]);
     return rows;
   });
 }
@@ -54,7 +57,7 @@ const std::vector<OffsetPattern>& offsetPatterns(const Vocabulary& v) {
 std::optional<NLPRecognizeDate> NLPNativeTitleParser::matchEnAfterTime(std::wstring title, Vocabulary vocabulary) {
   for (const OffsetPattern& pattern : offsetPatterns(vocabulary)) {
     PatternMatch match;
-    if (!pattern.compiled.search(title, match)) continue;
+    if (!pattern.guard.mayMatch(title) || !pattern.compiled.search(title, match)) continue;
 
     std::optional<NLPMorvaneDuration> offset;
     if (pattern.secondGroup == 0) {

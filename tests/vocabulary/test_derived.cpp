@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "support/test_support.h"
 #include "vocabulary/derived.h"
 #include "vocabulary/keys.h"
 #include "vocabulary/translation.h"
@@ -164,6 +165,24 @@ TEST(GuardedPatterns, NamedDayGuardNeverChangesAMatch) {
                                                       getSpecialDayRecognition(vocabulary), PatternCase::Insensitive);
     EXPECT_TRUE(guarded.words.usable());
     expectSameAsWhole(guarded, wordTitles(vocabulary, {&YESTERDAY, &TODAY, &TOMORROW, &DAY_AFTER_TOMORROW, &TONIGHT}));
+  }
+}
+
+TEST(GuardedPatterns, ClockFormsOfNumberWordsNeverChangeAMatch) {
+  NLPNativeTitleParser parser = parserAt("2024-03-08T10:00:00");
+  for (const wchar_t* code : {L"en", L"fr", L"ru", L"ja", L"ko", L"pt"}) {
+    const Vocabulary vocabulary = NLPTranslation::getTransKeyToValue(code);
+    const std::vector<GuardedPattern>& forms = parser.enTimePatterns(vocabulary);
+    ASSERT_EQ(forms.size(), 5u);
+    EXPECT_FALSE(forms[0].words.usable());
+    EXPECT_TRUE(forms[3].words.usable());
+    EXPECT_TRUE(forms[4].words.usable());
+    std::vector<std::wstring> titles =
+        wordTitles(vocabulary, {&ONE, &TWO, &THREE, &TEN, &ELEVEN, &TWELVE, &TWENTY_ONE, &TWENTY_FOUR});
+    for (const wchar_t* extra : {L"at seven pm", L"SEVEN AM", L"eleven o'clock", L"at 7pm", L"call at 19:30"}) {
+      titles.push_back(extra);
+    }
+    for (const GuardedPattern& form : forms) expectSameAsWhole(form, titles);
   }
 }
 
