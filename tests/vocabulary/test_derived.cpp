@@ -169,7 +169,7 @@ TEST(GuardedPatterns, NamedDayGuardNeverChangesAMatch) {
 }
 
 TEST(GuardedPatterns, ClockFormsOfNumberWordsNeverChangeAMatch) {
-  NLPNativeTitleParser parser = parserAt("2024-03-08T10:00:00");
+  NLPNativeTitleParser parser = testing::parserAt("2024-03-08T10:00:00");
   for (const wchar_t* code : {L"en", L"fr", L"ru", L"ja", L"ko", L"pt"}) {
     const Vocabulary vocabulary = NLPTranslation::getTransKeyToValue(code);
     const std::vector<GuardedPattern>& forms = parser.enTimePatterns(vocabulary);
