@@ -51,12 +51,12 @@ Settings settingsOf(const json& line, const Settings& defaults) {
   return settings;
 }
 
-std::string answer(const std::string& text, const Settings& defaults) {
+std::string answer(const std::string& text, const Settings& defaults, ZoneKeeper& zones) {
   json line = json::parse(text, nullptr, false);
   if (line.is_discarded()) throw UsageError("not a JSON text");
   Settings settings = settingsOf(line, defaults);
   const std::string title = stringKey(line, "title");
-  ZoneScope zone(settings.zone);
+  zones.use(settings.zone);
   return jsonLine(parseWith(settings, title));
 }
 }  // namespace
@@ -65,11 +65,12 @@ bool runBatch(std::istream& in, std::ostream& out, const Settings& defaults) {
   Settings batchDefaults = defaults;
   if (!batchDefaults.monthFirstOrder) batchDefaults.monthFirstOrder = true;
   bool allGood = true;
+  ZoneKeeper zones;
   std::string text;
   while (std::getline(in, text)) {
     if (!text.empty() && text.back() == '\r') text.pop_back();
     try {
-      out << answer(text, batchDefaults) << "\n";
+      out << answer(text, batchDefaults, zones) << "\n";
     } catch (const std::exception& error) {
       out << json{{"error", error.what()}}.dump(-1, ' ', false, json::error_handler_t::replace) << "\n";
       allGood = false;

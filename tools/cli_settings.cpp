@@ -6,7 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
-#include <regex>
+#include <set>
 
 namespace nlpdate::cli {
 
@@ -30,27 +30,40 @@ long long localSecondsOf(const std::string& text) {
 }
 }  // namespace
 
+namespace {
+
+// Whether text has the given shape: 'd' a decimal digit, any other character itself.
+bool hasShape(const std::string& text, const std::string& shape) {
+  if (text.size() != shape.size()) return false;
+  for (size_t i = 0; i < text.size(); ++i) {
+    const bool digit = text[i] >= '0' && text[i] <= '9';
+    if (shape[i] == 'd' ? !digit : text[i] != shape[i]) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
 HourMinute parseHourMinute(const std::string& text, const std::string& what) {
-  static const std::regex shape("([0-9]{1,2}):([0-9]{2})");
-  std::smatch match;
-  if (!std::regex_match(text, match, shape)) throw UsageError(what + ": expected HH:MM, got '" + text + "'");
-  int hour = std::stoi(match[1].str());
-  int minute = std::stoi(match[2].str());
+  if (!hasShape(text, "d:dd") && !hasShape(text, "dd:dd")) {
+    throw UsageError(what + ": expected HH:MM, got '" + text + "'");
+  }
+  const size_t colon = text.find(':');
+  int hour = std::stoi(text.substr(0, colon));
+  int minute = std::stoi(text.substr(colon + 1));
   if (hour > 23 || minute > 59) throw UsageError(what + ": time out of range: '" + text + "'");
   return {hour, minute};
 }
 
 void checkLocalTime(const std::string& text, const std::string& what) {
-  static const std::regex shape("([0-9]{4})-([0-9]{2})-([0-9]{2})T([0-9]{2}):([0-9]{2}):([0-9]{2})");
-  std::smatch match;
-  if (!std::regex_match(text, match, shape)) {
+  if (!hasShape(text, "dddd-dd-ddTdd:dd:dd")) {
     throw UsageError(what + ": expected YYYY-MM-DDTHH:MM:SS, got '" + text + "'");
   }
-  int month = std::stoi(match[2].str());
-  int day = std::stoi(match[3].str());
-  int hour = std::stoi(match[4].str());
-  int minute = std::stoi(match[5].str());
-  int second = std::stoi(match[6].str());
+  int month = std::stoi(text.substr(5, 2));
+  int day = std::stoi(text.substr(8, 2));
+  int hour = std::stoi(text.substr(11, 2));
+  int minute = std::stoi(text.substr(14, 2));
+  int second = std::stoi(text.substr(17, 2));
   if (month < 1 || month > 12 || day < 1 || day > 31 || hour > 23 || minute > 59 || second > 59) {
     throw UsageError(what + ": date or time out of range: '" + text + "'");
   }
@@ -64,12 +77,15 @@ int parseWeekday(const std::string& text, const std::string& what) {
 }
 
 void checkZone(const std::string& zone, const std::string& what) {
+  static std::set<std::string> known;  // a batch names the same few zones on every line
+  if (known.count(zone) != 0) return;
   const bool plausible = !zone.empty() && zone.find("..") == std::string::npos && zone[0] != '/';
   std::ifstream file("/usr/share/zoneinfo/" + zone, std::ios::binary);
   char magic[4] = {};
   if (!plausible || !file.read(magic, 4) || std::string(magic, 4) != "TZif") {
     throw UsageError(what + ": unknown time zone '" + zone + "'");
   }
+  known.insert(zone);
 }
 
 std::string readTextOrFile(const std::string& value, const std::string& what) {
@@ -94,6 +110,24 @@ ZoneScope::~ZoneScope() {
     unsetenv("TZ");
   }
   tzset();
+}
+
+ZoneKeeper::ZoneKeeper() {
+  if (const char* old = std::getenv("TZ")) original_ = old;
+}
+
+ZoneKeeper::~ZoneKeeper() { use(std::nullopt); }
+
+void ZoneKeeper::use(const std::optional<std::string>& zone) {
+  if (zone == current_) return;
+  const std::optional<std::string>& wanted = zone ? zone : original_;
+  if (wanted) {
+    setenv("TZ", wanted->c_str(), 1);
+  } else {
+    unsetenv("TZ");
+  }
+  tzset();
+  current_ = zone;
 }
 
 ParseResult parseWith(const Settings& settings, const std::string& title) {

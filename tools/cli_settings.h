@@ -78,6 +78,23 @@ class ZoneScope {
   std::optional<std::string> previous;
 };
 
+// The zone of a run of batch lines: a line's zone (or the process's, for a
+// line without one) is put in force only when it differs from the last line's,
+// since reading a zone costs more than most parses. The process's zone is back
+// in force once the keeper goes.
+class ZoneKeeper {
+ public:
+  ZoneKeeper();
+  ~ZoneKeeper();
+  ZoneKeeper(const ZoneKeeper&) = delete;
+  ZoneKeeper& operator=(const ZoneKeeper&) = delete;
+  void use(const std::optional<std::string>& zone);
+
+ private:
+  std::optional<std::string> original_;  // TZ as the process had it
+  std::optional<std::string> current_;   // the zone in force; none: the original
+};
+
 // Parses one title with these settings; zone must already be in force.
 ParseResult parseWith(const Settings& settings, const std::string& title);
 
