@@ -91,19 +91,14 @@ WordGuard::WordGuard(const std::wstring& alternation) {
 
 bool WordGuard::mayMatch(const std::wstring& text) const {
   if (!usable_) return true;
-  // Folded as it is compared, so no copy of the text is made.
-  auto fold = [](wchar_t unit) {
-    return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit - L'A' + L'a') : unit;
-  };
-  for (const std::wstring& literal : literals_) {
-    if (literal.size() > text.size()) continue;
-    for (size_t at = 0; at + literal.size() <= text.size(); ++at) {
-      size_t k = 0;
-      while (k < literal.size() && fold(text[at + k]) == literal[k]) ++k;
-      if (k == literal.size()) return true;
-    }
+  // One folded copy per thread, reused: no allocation once it is large enough.
+  thread_local std::wstring folded;
+  folded.assign(text);
+  for (wchar_t& unit : folded) {
+    if (unit >= L'A' && unit <= L'Z') unit = static_cast<wchar_t>(unit - L'A' + L'a');
   }
-  return false;
+  return std::any_of(literals_.begin(), literals_.end(),
+                     [](const std::wstring& literal) { return folded.find(literal) != std::wstring::npos; });
 }
 
 }  // namespace nlpdate
