@@ -87,18 +87,32 @@ WordGuard::WordGuard(const std::wstring& alternation) {
   std::sort(literals_.begin(), literals_.end());
   literals_.erase(std::unique(literals_.begin(), literals_.end()), literals_.end());
   usable_ = !literals_.empty();
+  for (const std::wstring& literal : literals_) {
+    byFirst_[literal[0]].push_back(literal);
+    firstUnits_.set(static_cast<size_t>(literal[0]) & 255);
+  }
 }
 
 bool WordGuard::mayMatch(const std::wstring& text) const {
   if (!usable_) return true;
-  // One folded copy per thread, reused: no allocation once it is large enough.
-  thread_local std::wstring folded;
-  folded.assign(text);
-  for (wchar_t& unit : folded) {
-    if (unit >= L'A' && unit <= L'Z') unit = static_cast<wchar_t>(unit - L'A' + L'a');
+  // One pass over the text: only where a literal's first letter stands are
+  // the literals that begin with it compared.
+  auto fold = [](wchar_t unit) {
+    return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit - L'A' + L'a') : unit;
+  };
+  for (size_t at = 0; at < text.size(); ++at) {
+    const wchar_t first = fold(text[at]);
+    if (!firstUnits_.test(static_cast<size_t>(first) & 255)) continue;
+    const auto found = byFirst_.find(first);
+    if (found == byFirst_.end()) continue;
+    for (const std::wstring& literal : found->second) {
+      if (at + literal.size() > text.size()) continue;
+      size_t k = 1;
+      while (k < literal.size() && fold(text[at + k]) == literal[k]) ++k;
+      if (k == literal.size()) return true;
+    }
   }
-  return std::any_of(literals_.begin(), literals_.end(),
-                     [](const std::wstring& literal) { return folded.find(literal) != std::wstring::npos; });
+  return false;
 }
 
 }  // namespace nlpdate

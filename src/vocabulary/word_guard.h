@@ -5,7 +5,9 @@
 // regard to case: ASCII letters fold, nothing else does.
 #pragma once
 
+#include <bitset>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace nlpdate {
@@ -25,7 +27,9 @@ class WordGuard {
   const std::vector<std::wstring>& literals() const { return literals_; }
 
  private:
-  std::vector<std::wstring> literals_;  // ASCII letters lower-cased
+  std::vector<std::wstring> literals_;                              // ASCII letters lower-cased
+  std::unordered_map<wchar_t, std::vector<std::wstring>> byFirst_;  // the literals by their first unit
+  std::bitset<256> firstUnits_;                                     // first units, by their low byte
   bool usable_ = false;
 };
 

@@ -46,6 +46,17 @@ TEST(WordGuard, AnAlternativeWithoutALeadingLiteralMakesItUnusable) {
   }
 }
 
+TEST(WordGuard, LiteralsSharingAFirstLetterAreEachTried) {
+  const WordGuard guard(L"monday|month|mon\\b");
+  EXPECT_TRUE(guard.mayMatch(L"every MONTH"));
+  EXPECT_TRUE(guard.mayMatch(L"xmon"));      // at the very end
+  EXPECT_FALSE(guard.mayMatch(L"mo"));       // longer than what is left
+  EXPECT_FALSE(guard.mayMatch(L"m o n"));
+  const WordGuard cyrillic(L"понедельник|пн");
+  EXPECT_TRUE(cyrillic.mayMatch(L"в пн утром"));
+  EXPECT_FALSE(cyrillic.mayMatch(L"в ПН утром"));  // no folding beyond ASCII
+}
+
 TEST(WordGuard, FoldAsciiLeavesOtherUnitsAlone) { EXPECT_EQ(foldAscii(L"AbC-Éé-ДZ"), L"abc-Éé-Дz"); }
 
 }  // namespace
