@@ -24,9 +24,10 @@ TEST(PatternDigits, PatternsThatCannotDoWithoutADigit) {
 
 TEST(PatternDigits, PatternsThatMayMatchWithoutOne) {
   for (const wchar_t* pattern :
-       {L"\\d?", L"\\d*", L"\\d{0,2}", L"(a|\\d)", L"[0-9a]", L"[--9]", L"[^0-9]", L"(?=\\d)", L"(?!\\d)x",
-        L"(?<=\\d)x", L"a{2}", L"\\x31", L"\\u0031", L"\\u{31}", L"\\12", L".", L"\\D", L"[\\D]", L"", L"(\\d)?",
-        L"\\d)", L"[0-]", L"[]0]", L"\\d|", L"|\\d", L"(?:\\d|)", L"a{,2}", L"\\d{0}", L"[0-9]{0,}", L"\\c1"}) {
+       {L"\\d?",     L"\\d*",      L"\\d{0,2}", L"(a|\\d)", L"[0-9a]",    L"[--9]",   L"[^0-9]", L"(?=\\d)",
+        L"(?!\\d)x", L"(?<=\\d)x", L"a{2}",     L"\\x31",   L"\\u0031",   L"\\u{31}", L"\\12",   L".",
+        L"\\D",      L"[\\D]",     L"",         L"(\\d)?",  L"\\d)",      L"[0-]",    L"[]0]",   L"\\d|",
+        L"|\\d",     L"(?:\\d|)",  L"a{,2}",    L"\\d{0}",  L"[0-9]{0,}", L"\\c1"}) {
     EXPECT_FALSE(everyMatchHoldsADigit(pattern)) << wideToUtf8(pattern);
   }
 }
@@ -75,18 +76,22 @@ TEST(PatternDigits, NoRecordedPatternMatchesASubjectWithoutDigits) {
   }));
   std::printf("%zu recorded patterns need a digit; tried on %zu subjects without digits\n", patterns, subjects.size());
   EXPECT_GT(patterns, 100u);
+  // The reference engine is slow: a build that uses it tries every 50th pair.
+#ifdef NLPDATE_DIFF_STRIDE
+  size_t step = NLPDATE_DIFF_STRIDE;
+#else
+  size_t step = 1;
+#endif
+  if (defaultPatternEngine() == PatternEngine::Reference) step = 50;
   size_t stride = 0;
   for (const auto& [key, pattern] : claimed) {
     for (const std::wstring& subject : subjects) {
-#ifdef NLPDATE_DIFF_STRIDE
-      if (++stride % NLPDATE_DIFF_STRIDE != 0) continue;
-#endif
+      if (++stride % step != 0) continue;
       PatternMatch match;
       ASSERT_FALSE(pattern.compiled()->find(subject, 0, false, match))
           << wideToUtf8(key.first) << "\n  in: " << wideToUtf8(subject);
     }
   }
-  (void)stride;
 }
 
 }  // namespace
